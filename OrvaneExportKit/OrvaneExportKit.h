@@ -1,0 +1,13 @@
+#pragma once
+
+/// \file
+/// Everything that a plug-in needs, in one include.
+
+#include <OrvaneExportKit/platform/AttributedString.h>
+#include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/platform/LineRanges.h>
+#include <OrvaneExportKit/platform/OpenPanel.h>
+#include <OrvaneExportKit/platform/Paths.h>
+#include <OrvaneExportKit/platform/Range.h>
+#include <OrvaneExportKit/platform/TextEdits.h>
+#include <OrvaneExportKit/version.h>

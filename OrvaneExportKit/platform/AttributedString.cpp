@@ -1,0 +1,238 @@
+#include <OrvaneExportKit/platform/AttributedString.h>
+#include <OrvaneExportKit/platform/Exceptions.h>
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+/// Whether the maps hold the same names with values of the same types that are equal. Stricter than `==`, for which
+/// the numbers 1 and 1.0 are equal.
+bool identical(const QVariantMap &a, const QVariantMap &b)
+{
+    const auto sameType = [](const QVariant &x, const QVariant &y) {
+        return x.metaType() == y.metaType();
+    };
+    return a.isSharedWith(b) || (a == b && std::equal(a.begin(), a.end(), b.begin(), b.end(), sameType));
+}
+
+void requireAscending(const char *operation, const RangeList &ranges, std::size_t textLength)
+{
+    std::size_t position = 0;
+    for (const Range &range : ranges) {
+        requireRange(operation, range, textLength);
+        if (range.location < position) {
+            throw InvalidArgumentException(std::string(operation) + ": the range at " + std::to_string(range.location) +
+                                           " begins before the end of the one before it");
+        }
+        position = range.end();
+    }
+}
+
+/// Calls a change on attributes, and only once for neighbours that share their attributes.
+class SharedChange
+{
+public:
+    explicit SharedChange(const std::function<void(QVariantMap &)> &change) : m_change(change) {}
+
+    const QVariantMap &operator()(const QVariantMap &attributes)
+    {
+        if (!m_used || !attributes.isSharedWith(m_before)) {
+            m_used = true;
+            m_before = attributes;
+            m_after = attributes;
+            m_change(m_after);
+        }
+        return m_after;
+    }
+
+private:
+    const std::function<void(QVariantMap &)> &m_change;
+    QVariantMap m_before;
+    QVariantMap m_after;
+    bool m_used = false;
+};
+
+} // namespace
+
+AttributedString::AttributedString(QString text, const QVariantMap &attributes) : m_string(std::move(text))
+{
+    if (!m_string.isEmpty()) {
+        m_runs.append({0, attributes});
+    }
+}
+
+QVariantMap AttributedString::attributesAtIndex(std::size_t index, Range *effectiveRange) const
+{
+    requireRange("attributesAtIndex", {index, 1}, length());
+    const qsizetype run = runHolding(index);
+    if (effectiveRange != nullptr) {
+        *effectiveRange = {m_runs[run].start, runEnd(run) - m_runs[run].start};
+    }
+    return m_runs[run].attributes;
+}
+
+QVariant AttributedString::attribute(const QString &name, std::size_t index, Range *longestEffectiveRange,
+                                     Range within) const
+{
+    requireRange("attribute", within, length());
+    if (index < within.location || index >= within.end()) {
+        throw RangeException("attribute", {index, 1}, within.end());
+    }
+    qsizetype first = runHolding(index);
+    QVariant value = m_runs[first].attributes.value(name);
+    if (longestEffectiveRange != nullptr) {
+        qsizetype last = first;
+        while (m_runs[first].start > within.location && m_runs[first - 1].attributes.value(name) == value) {
+            --first;
+        }
+        while (runEnd(last) < within.end() && m_runs[last + 1].attributes.value(name) == value) {
+            ++last;
+        }
+        const std::size_t start = std::max(m_runs[first].start, within.location);
+        *longestEffectiveRange = {start, std::min(runEnd(last), within.end()) - start};
+    }
+    return value;
+}
+
+void AttributedString::addAttributes(const QVariantMap &attributes, Range range)
+{
+    requireRange("addAttributes", range, length());
+    changeAttributes({range}, [&](QVariantMap &present) { present.insert(attributes); });
+}
+
+void AttributedString::setAttributes(const QVariantMap &attributes, Range range)
+{
+    requireRange("setAttributes", range, length());
+    changeAttributes({range}, [&](QVariantMap &present) { present = attributes; });
+}
+
+void AttributedString::removeAttribute(const QString &name, Range range)
+{
+    requireRange("removeAttribute", range, length());
+    changeAttributes({range}, [&](QVariantMap &present) { present.remove(name); });
+}
+
+void AttributedString::replaceCharacters(Range range, QStringView string)
+{
+    requireRange("replaceCharacters", range, length());
+    const QString replacement = string.toString(); // `string` may view this very text
+    applyEdits(*this, {{range, units(replacement)}});
+}
+
+void AttributedString::changeAttributes(const RangeList &ranges, const std::function<void(QVariantMap &)> &change)
+{
+    requireAscending("changeAttributes", ranges, length());
+    if (ranges.empty() || m_runs.isEmpty()) {
+        return;
+    }
+    // Only the runs that the ranges touch are rewritten, with a neighbour on each side to merge with.
+    const qsizetype first = std::max<qsizetype>(0, runHolding(ranges.front().location) - 1);
+    const qsizetype last = runHolding(ranges.back().end());
+    SharedChange changed(change);
+    QList<Run> rewritten;
+    auto range = ranges.begin();
+    for (qsizetype run = first; run <= last; ++run) {
+        const QVariantMap &attributes = m_runs.at(run).attributes;
+        const std::size_t end = runEnd(run);
+        std::size_t position = m_runs.at(run).start;
+        while (position < end) {
+            while (range != ranges.end() && range->end() <= position) {
+                ++range;
+            }
+            const bool inside = range != ranges.end() && range->location <= position;
+            const std::size_t border = range == ranges.end() ? end : inside ? range->end() : range->location;
+            appendRun(rewritten, position, inside ? changed(attributes) : attributes);
+            position = std::min(end, border);
+        }
+    }
+    replaceRuns(first, last - first + 1, rewritten);
+}
+
+bool operator==(const AttributedString &a, const AttributedString &b)
+{
+    const auto sameRun = [](const AttributedString::Run &x, const AttributedString::Run &y) {
+        return x.start == y.start && identical(x.attributes, y.attributes);
+    };
+    return a.m_string == b.m_string &&
+           std::equal(a.m_runs.begin(), a.m_runs.end(), b.m_runs.begin(), b.m_runs.end(), sameRun);
+}
+
+void applyEdits(AttributedString &text, const TextEdits &edits)
+{
+    requireEdits(edits, text.length());
+    QList<AttributedString::Run> moved = text.runsAfterEdits(edits);
+    applyEdits(text.m_string, edits);
+    text.m_runs.swap(moved);
+}
+
+QList<AttributedString::Run> AttributedString::runsAfterEdits(const TextEdits &edits) const
+{
+    if (m_runs.isEmpty()) {
+        return edits.empty() ? m_runs : QList<Run>{Run{0, {}}};
+    }
+    // New units belong to the run of the first unit that they replace, or to the one before them when they replace
+    // none, so a run starts behind all edits that begin before it.
+    auto edit = edits.begin();
+    std::size_t editsEnd = 0;
+    std::size_t shift = 0; // modulo the word size, so that it may stand for less than nothing
+    const auto startAfterEdits = [&](std::size_t start) {
+        while (edit != edits.end() &&
+               (edit->range.location < start || (edit->range.location == start && edit->range.length == 0))) {
+            shift += edit->replacement.size() - edit->range.length;
+            editsEnd = edit->range.end();
+            ++edit;
+        }
+        return std::max(start, editsEnd) + shift;
+    };
+    QList<Run> moved;
+    moved.reserve(m_runs.size());
+    for (const Run &run : m_runs) {
+        const std::size_t start = run.start == 0 ? 0 : startAfterEdits(run.start);
+        if (!moved.isEmpty() && moved.last().start == start) {
+            moved.removeLast();
+        }
+        appendRun(moved, start, run.attributes);
+    }
+    if (moved.last().start == startAfterEdits(length())) {
+        moved.removeLast();
+    }
+    return moved;
+}
+
+/// The run of the unit at `index`; at the end of the text the last one.
+qsizetype AttributedString::runHolding(std::size_t index) const
+{
+    const auto startsBehind = [](std::size_t position, const Run &run) {
+        return position < run.start;
+    };
+    return std::upper_bound(m_runs.begin(), m_runs.end(), index, startsBehind) - m_runs.begin() - 1;
+}
+
+std::size_t AttributedString::runEnd(qsizetype run) const
+{
+    return run + 1 < m_runs.size() ? m_runs[run + 1].start : length();
+}
+
+/// Appends a run, or lets the last one go on when it has the same attributes.
+void AttributedString::appendRun(QList<Run> &runs, std::size_t start, const QVariantMap &attributes)
+{
+    if (runs.isEmpty() || !identical(runs.last().attributes, attributes)) {
+        runs.append({start, attributes});
+    }
+}
+
+void AttributedString::replaceRuns(qsizetype first, qsizetype count, const QList<Run> &replacements)
+{
+    const qsizetype kept = std::min(count, replacements.size());
+    std::copy_n(replacements.begin(), kept, m_runs.begin() + first);
+    if (replacements.size() < count) {
+        m_runs.remove(first + kept, count - kept);
+    } else if (replacements.size() > count) {
+        m_runs.insert(first + kept, replacements.size() - count, Run{});
+        std::copy(replacements.begin() + kept, replacements.end(), m_runs.begin() + first + kept);
+    }
+}
+
+} // namespace platform

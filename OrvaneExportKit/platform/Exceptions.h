@@ -1,0 +1,52 @@
+#pragma once
+
+#include <OrvaneExportKit/ExportMacros.h>
+#include <OrvaneExportKit/platform/Range.h>
+
+#include <stdexcept>
+#include <string>
+
+namespace platform {
+
+/// Base of every exception that the kit throws on purpose; `what()` is one English sentence in UTF-8 that names the
+/// operation that failed.
+class ORVANE_CORE_EXPORT Exception : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+    ~Exception() override;
+};
+
+/// A range reaches past the end of the text that it was used on.
+///
+/// Operations over several ranges work from the highest location downwards; what they changed before they met the
+/// range stays changed.
+///
+///     try { deleteCharactersInRanges(text, ranges); } catch (const platform::RangeException &e) { warn(e.what()); }
+class ORVANE_CORE_EXPORT RangeException : public Exception
+{
+public:
+    /// `operation` is the name of the function that was called, `textLength` the units the text had at that moment.
+    RangeException(const std::string &operation, Range range, std::size_t textLength);
+    ~RangeException() override;
+
+    Range range() const noexcept { return m_range; }
+    std::size_t textLength() const noexcept { return m_textLength; }
+
+private:
+    Range m_range;
+    std::size_t m_textLength;
+};
+
+/// An argument breaks a promise that the operation's documentation asks for.
+class ORVANE_CORE_EXPORT InvalidArgumentException : public Exception
+{
+public:
+    using Exception::Exception;
+    ~InvalidArgumentException() override;
+};
+
+/// Throws a `RangeException` unless `range` lies inside a text of `textLength` units.
+ORVANE_CORE_EXPORT void requireRange(const char *operation, Range range, std::size_t textLength);
+
+} // namespace platform

@@ -1,0 +1,43 @@
+#include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/platform/LineRanges.h>
+
+namespace platform {
+
+namespace {
+
+/// Whether `index` stands between the two units of U+000D U+000A, where no line ends.
+bool isInsidePair(std::u16string_view text, std::size_t index)
+{
+    return index > 0 && index < text.size() && text[index - 1] == u'\r' && text[index] == u'\n';
+}
+
+std::size_t lineStart(std::u16string_view text, std::size_t index)
+{
+    while (index > 0 && (!isLineTerminator(text[index - 1]) || isInsidePair(text, index))) {
+        --index;
+    }
+    return index;
+}
+
+} // namespace
+
+std::size_t lineEnd(std::u16string_view text, std::size_t index) noexcept
+{
+    while (index < text.size() && !isLineTerminator(text[index])) {
+        ++index;
+    }
+    if (index == text.size()) {
+        return index;
+    }
+    return isInsidePair(text, index + 1) ? index + 2 : index + 1;
+}
+
+Range lineRangeForRange(std::u16string_view text, Range range)
+{
+    requireRange("lineRangeForRange", range, text.size());
+    const std::size_t start = lineStart(text, range.location);
+    const std::size_t last = range.length == 0 ? range.location : range.end() - 1;
+    return {start, lineEnd(text, last) - start};
+}
+
+} // namespace platform

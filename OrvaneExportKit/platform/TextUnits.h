@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QtCore/QStringView>
+
+#include <string_view>
+
+namespace platform {
+
+/// The UTF-16 code units of a string or view, as the finding functions read them. Not a copy: it lives as long as the
+/// text is neither changed nor destroyed.
+inline std::u16string_view units(QStringView text) noexcept
+{
+    return {text.utf16(), static_cast<std::size_t>(text.size())};
+}
+
+/// The same units as a Qt view.
+inline QStringView view(std::u16string_view text) noexcept
+{
+    return {text.data(), static_cast<qsizetype>(text.size())};
+}
+
+} // namespace platform
