@@ -10,4 +10,10 @@
 #include <OrvaneExportKit/platform/Paths.h>
 #include <OrvaneExportKit/platform/Range.h>
 #include <OrvaneExportKit/platform/TextEdits.h>
+#include <OrvaneExportKit/text/EscapeSequences.h>
+#include <OrvaneExportKit/text/LineLayout.h>
+#include <OrvaneExportKit/text/QuotationMarks.h>
+#include <OrvaneExportKit/text/RangeLists.h>
+#include <OrvaneExportKit/text/TaggedSpans.h>
+#include <OrvaneExportKit/text/Typography.h>
 #include <OrvaneExportKit/version.h>

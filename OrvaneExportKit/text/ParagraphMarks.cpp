@@ -1,0 +1,162 @@
+#include <OrvaneExportKit/text/ParagraphMarks.h>
+
+#include <OrvaneExportKit/text/Occurrences.h>
+#include <OrvaneExportKit/text/PositionSet.h>
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+constexpr const char *operation = "deleteParagraphMark";
+
+bool isAscendingAndDisjoint(const RangeList &ranges)
+{
+    const auto meets = [](const Range &a, const Range &b) {
+        return b.location < a.location || a.length > b.location - a.location;
+    };
+    return std::adjacent_find(ranges.begin(), ranges.end(), meets) == ranges.end();
+}
+
+/// The usual list: what a range takes out lies before all that the ranges behind it took out, so the text as it was
+/// tells everything.
+FoundEdits findInDisjointRanges(std::u16string_view text, std::u16string_view mark, const RangeList &ranges)
+{
+    FoundEdits found;
+    if (!ranges.empty() && !ranges.back().fits(text.size())) {
+        found.failure.emplace(operation, ranges.back(), text.size());
+        return found;
+    }
+    // What stands behind the next deletion is no blank, so blanks end where it begins.
+    std::size_t nextDeletion = text.size();
+    for (auto range = ranges.rbegin(); range != ranges.rend(); ++range) {
+        const std::size_t at = findLiteral(text.substr(0, range->end()), mark, range->location);
+        if (at == notFound) {
+            continue;
+        }
+        std::size_t end = at + mark.size();
+        while (end < nextDeletion && text[end] == u' ') {
+            ++end;
+        }
+        found.edits.push_back({{range->location, end - range->location}});
+        nextDeletion = range->location;
+    }
+    std::reverse(found.edits.begin(), found.edits.end());
+    return found;
+}
+
+/// A text from which units are deleted while the places of the mark in it are kept up to date. Positions count the
+/// units that are left.
+class MarkedText
+{
+public:
+    MarkedText(std::u16string_view text, std::u16string_view mark)
+        : m_text(text), m_mark(mark), m_left(PositionSet::all(text.size())), m_marks(text.size())
+    {
+        for (std::size_t at = findLiteral(text, mark, 0); at != notFound; at = findLiteral(text, mark, at + 1)) {
+            m_marks.insert(at);
+        }
+    }
+
+    std::size_t length() const { return m_left.count(); }
+    char16_t unitAt(std::size_t position) const { return m_text[m_left.nth(position)]; }
+
+    /// The position of the first mark that lies wholly inside the range, or `notFound`.
+    std::size_t findMark(Range range) const
+    {
+        if (range.length < m_mark.size() || range.length == 0) {
+            return notFound;
+        }
+        const std::size_t marksBefore = m_marks.countBelow(m_left.nth(range.location));
+        if (marksBefore == m_marks.count()) {
+            return notFound;
+        }
+        const std::size_t at = m_left.countBelow(m_marks.nth(marksBefore));
+        return at + m_mark.size() <= range.end() ? at : notFound;
+    }
+
+    void erase(Range range)
+    {
+        for (std::size_t count = 0; count < range.length; ++count) {
+            const std::size_t unit = m_left.nth(range.location);
+            m_left.erase(unit);
+            m_marks.erase(unit);
+        }
+        const std::size_t reach = std::min(range.location, m_mark.size() - 1);
+        for (std::size_t position = range.location - reach; position < range.location; ++position) {
+            updateMark(position);
+        }
+    }
+
+    /// The stretches of the original text that are gone.
+    TextEdits deletions() const
+    {
+        TextEdits edits;
+        for (std::size_t unit = 0; unit < m_text.size();) {
+            const std::size_t start = unit;
+            while (unit < m_text.size() && !m_left.contains(unit)) {
+                ++unit;
+            }
+            if (unit > start) {
+                edits.push_back({{start, unit - start}});
+            } else {
+                ++unit;
+            }
+        }
+        return edits;
+    }
+
+private:
+    void updateMark(std::size_t position)
+    {
+        std::size_t matched = 0;
+        while (matched < m_mark.size() && position + matched < length() &&
+               unitAt(position + matched) == m_mark[matched]) {
+            ++matched;
+        }
+        if (matched == m_mark.size()) {
+            m_marks.insert(m_left.nth(position));
+        } else {
+            m_marks.erase(m_left.nth(position));
+        }
+    }
+
+    std::u16string_view m_text;
+    std::u16string_view m_mark;
+    PositionSet m_left;
+    PositionSet m_marks;
+};
+
+FoundEdits findInAnyRanges(std::u16string_view text, std::u16string_view mark, const RangeList &ranges)
+{
+    FoundEdits found;
+    MarkedText marked(text, mark);
+    for (auto range = ranges.rbegin(); range != ranges.rend(); ++range) {
+        if (!range->fits(marked.length())) {
+            found.failure.emplace(operation, *range, marked.length());
+            break;
+        }
+        const std::size_t at = marked.findMark(*range);
+        if (at == notFound) {
+            continue;
+        }
+        std::size_t end = at + mark.size();
+        while (end < marked.length() && marked.unitAt(end) == u' ') {
+            ++end;
+        }
+        marked.erase({range->location, end - range->location});
+    }
+    found.edits = marked.deletions();
+    return found;
+}
+
+} // namespace
+
+FoundEdits findParagraphMarkDeletions(std::u16string_view text, std::u16string_view mark, const RangeList &ranges)
+{
+    return isAscendingAndDisjoint(ranges) ? findInDisjointRanges(text, mark, ranges)
+                                          : findInAnyRanges(text, mark, ranges);
+}
+
+} // namespace platform

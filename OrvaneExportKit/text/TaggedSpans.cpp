@@ -1,0 +1,129 @@
+#include <OrvaneExportKit/text/TaggedSpans.h>
+
+#include <OrvaneExportKit/platform/LineRanges.h>
+#include <OrvaneExportKit/platform/TextUnits.h>
+#include <OrvaneExportKit/text/Occurrences.h>
+#include <OrvaneExportKit/text/ParagraphMarks.h>
+
+#include <algorithm>
+
+using platform::AttributedString;
+using platform::findLiteral;
+using platform::RangeList;
+using platform::TextEdits;
+using platform::units;
+
+namespace {
+
+RangeList findLevelLines(std::u16string_view text, std::u16string_view levelString)
+{
+    RangeList lines;
+    for (std::size_t at = findLiteral(text, levelString, 0); at != platform::notFound;
+         at = findLiteral(text, levelString, at + levelString.size())) {
+        if (at == 0 || text[at - 1] == u'\n') {
+            lines.push_back({at, platform::lineEnd(text, at + levelString.size() - 1) - at});
+        }
+    }
+    return lines;
+}
+
+TextEdits findLevelMarks(std::u16string_view text, std::u16string_view levelString)
+{
+    const RangeList lines = findLevelLines(text, levelString);
+    TextEdits edits(lines.size());
+    // What stands behind a deleted mark is no blank, so the blanks of the mark before it end where it begins.
+    std::size_t nextMark = text.size();
+    for (std::size_t index = lines.size(); index-- > 0;) {
+        const std::size_t start = lines[index].location;
+        std::size_t end = start + levelString.size();
+        while (end < nextMark && text[end] == u' ') {
+            ++end;
+        }
+        edits[index].range = {start, end - start};
+        nextMark = start;
+    }
+    return edits;
+}
+
+template <typename Text>
+void deleteLevelMarks(Text &text, QStringView levelString)
+{
+    applyEdits(text, findLevelMarks(units(text), units(levelString)));
+}
+
+/// The next occurrence of a tag; "//" right after a colon, as in a web address, is stepped over.
+std::size_t findTag(std::u16string_view text, std::u16string_view tag, std::size_t from)
+{
+    std::size_t at = findLiteral(text, tag, from);
+    while (tag == u"//" && at != platform::notFound && at > 0 && text[at - 1] == u':') {
+        at = findLiteral(text, tag, at + tag.size());
+    }
+    return at;
+}
+
+RangeList findTagPairs(std::u16string_view text, std::u16string_view startTag, std::u16string_view stopTag)
+{
+    RangeList tags;
+    std::size_t position = 0;
+    while (true) {
+        const std::size_t start = findTag(text, startTag, position);
+        if (start == platform::notFound) {
+            return tags;
+        }
+        const std::size_t stop = findTag(text, stopTag, start + startTag.size());
+        if (stop == platform::notFound) {
+            return tags;
+        }
+        tags.push_back({start, startTag.size()});
+        tags.push_back({stop, stopTag.size()});
+        position = stop + stopTag.size();
+    }
+}
+
+} // namespace
+
+namespace KZStringExportAdditions {
+
+RangeList lineRangesForLevelString(QStringView text, QStringView levelString)
+{
+    return findLevelLines(units(text), units(levelString));
+}
+
+RangeList rangesForStartTag(QStringView text, QStringView startTag, QStringView stopTag)
+{
+    return findTagPairs(units(text), units(startTag), units(stopTag));
+}
+
+} // namespace KZStringExportAdditions
+
+namespace KZAttributedStringExportAdditions {
+
+RangeList lineRangesForLevelString(const AttributedString &text, QStringView levelString)
+{
+    return findLevelLines(units(text), units(levelString));
+}
+
+} // namespace KZAttributedStringExportAdditions
+
+namespace KZMutableStringExportAdditions {
+
+void deleteLevelMark(QString &text, QStringView levelString)
+{
+    deleteLevelMarks(text, levelString);
+}
+
+} // namespace KZMutableStringExportAdditions
+
+namespace KZMutableAttributedStringExportAdditions {
+
+void deleteLevelMark(AttributedString &text, QStringView levelString)
+{
+    deleteLevelMarks(text, levelString);
+}
+
+void deleteParagraphMark(AttributedString &text, QStringView mark, const RangeList &ranges)
+{
+    carryOut(text, platform::findParagraphMarkDeletions(units(text), units(mark), ranges));
+}
+
+} // namespace KZMutableAttributedStringExportAdditions
