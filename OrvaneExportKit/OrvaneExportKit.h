@@ -10,6 +10,10 @@
 #include <OrvaneExportKit/platform/Paths.h>
 #include <OrvaneExportKit/platform/Range.h>
 #include <OrvaneExportKit/platform/TextEdits.h>
+#include <OrvaneExportKit/run/ExportDocument.h>
+#include <OrvaneExportKit/run/ExportPlugin.h>
+#include <OrvaneExportKit/run/FileNameChecks.h>
+#include <OrvaneExportKit/run/FileNames.h>
 #include <OrvaneExportKit/text/EscapeSequences.h>
 #include <OrvaneExportKit/text/LineLayout.h>
 #include <OrvaneExportKit/text/QuotationMarks.h>

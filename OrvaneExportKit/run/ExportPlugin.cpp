@@ -1,0 +1,3 @@
+#include <OrvaneExportKit/run/ExportPlugin.h>
+
+ExportPlugin::~ExportPlugin() = default;

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <OrvaneExportKit/ExportMacros.h>
+#include <OrvaneExportKit/platform/AttributedString.h>
+#include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/run/ExportDocument.h>
+
+#include <QtCore/QByteArray>
+#include <QtCore/QList>
+#include <QtCore/QString>
+#include <QtCore/QtPlugin>
+
+/// An export format, loaded by a host as a Qt plug-in.
+///
+/// A plug-in is a shared library with one `QObject` that implements this interface. A host creates it, sets choices,
+/// and then asks for the exported data document by document, all on the main thread. The host writes the files.
+///
+///     class PlainTextPlugin : public QObject, public ExportPlugin
+///     {
+///         Q_OBJECT
+///         Q_INTERFACES(ExportPlugin)
+///         Q_PLUGIN_METADATA(IID ExportPlugin_iid)
+///     public: ...
+///     };
+class ORVANE_CORE_EXPORT ExportPlugin
+{
+public:
+    /// One thing a user can choose, for a host to list and to check keys against.
+    struct Choice {
+        QString key;          ///< how the choice is named, lower-case words joined by hyphens: "line-length"
+        QString defaultValue; ///< what holds unless the host sets something else, as text
+        QString description;  ///< one line: what it does and which values it takes
+    };
+
+    ExportPlugin() = default;
+    ExportPlugin(const ExportPlugin &) = delete;
+    ExportPlugin &operator=(const ExportPlugin &) = delete;
+    virtual ~ExportPlugin();
+
+    /// The name that a host finds the plug-in by, lower-case words joined by hyphens: "plain-text".
+    virtual QString name() const = 0;
+
+    /// The name that a user reads, in the user's language: "Plain Text".
+    virtual QString displayName() const = 0;
+
+    /// The extension of the files, without the dot, for destinations that name none: "txt".
+    virtual QString pathExtension() const = 0;
+
+    /// All choices, in the order in which a host shows them.
+    virtual QList<Choice> choices() const = 0;
+
+    /// Sets one choice from its text form for all documents to come.
+    /// Throws `platform::InvalidArgumentException`, saying which values are allowed, and changes nothing when the key
+    /// is unknown or the value is not one that the choice takes.
+    virtual void setChoice(const QString &key, const QString &value) = 0;
+
+    /// The content of the file that one document becomes. May throw; the host then reports the document and what the
+    /// exception says.
+    virtual QByteArray exportedData(const ExportDocument &document, const platform::AttributedString &text) const = 0;
+};
+
+/// The version of the interface above. It changes when a plug-in that was built against another one can't be used.
+#define ExportPlugin_iid "OrvaneExportKit.ExportPlugin/1"
+Q_DECLARE_INTERFACE(ExportPlugin, ExportPlugin_iid)
