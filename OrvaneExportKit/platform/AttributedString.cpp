@@ -7,14 +7,33 @@ namespace platform {
 
 namespace {
 
-/// Whether the maps hold the same names with values of the same types that are equal. Stricter than `==`, for which
-/// the numbers 1 and 1.0 are equal.
+bool identical(const QVariantMap &a, const QVariantMap &b);
+
+/// Whether the values are equal and of the same types, also inside lists and maps. Stricter than `==`, for which the
+/// numbers 1 and 1.0 are equal.
+bool identicalValues(const QVariant &a, const QVariant &b)
+{
+    if (a.metaType() != b.metaType()) {
+        return false;
+    }
+    if (a.metaType() == QMetaType::fromType<QVariantMap>()) {
+        return identical(a.toMap(), b.toMap());
+    }
+    if (a.metaType() == QMetaType::fromType<QVariantList>()) {
+        const QVariantList left = a.toList();
+        const QVariantList right = b.toList();
+        return std::equal(left.begin(), left.end(), right.begin(), right.end(), identicalValues);
+    }
+    return a == b;
+}
+
 bool identical(const QVariantMap &a, const QVariantMap &b)
 {
-    const auto sameType = [](const QVariant &x, const QVariant &y) {
-        return x.metaType() == y.metaType();
+    const auto sameEntry = [](const auto &x, const auto &y) {
+        return x.first == y.first && identicalValues(x.second, y.second);
     };
-    return a.isSharedWith(b) || (a == b && std::equal(a.begin(), a.end(), b.begin(), b.end(), sameType));
+    return a.isSharedWith(b) ||
+           std::equal(a.keyValueBegin(), a.keyValueEnd(), b.keyValueBegin(), b.keyValueEnd(), sameEntry);
 }
 
 void requireAscending(const char *operation, const RangeList &ranges, std::size_t textLength)
@@ -170,7 +189,10 @@ void applyEdits(AttributedString &text, const TextEdits &edits)
 QList<AttributedString::Run> AttributedString::runsAfterEdits(const TextEdits &edits) const
 {
     if (m_runs.isEmpty()) {
-        return edits.empty() ? m_runs : QList<Run>{Run{0, {}}};
+        const auto insertsNothing = [](const TextEdit &edit) {
+            return edit.replacement.empty();
+        };
+        return std::all_of(edits.begin(), edits.end(), insertsNothing) ? m_runs : QList<Run>{Run{0, {}}};
     }
     // New units belong to the run of the first unit that they replace, or to the one before them when they replace
     // none, so a run starts behind all edits that begin before it.
