@@ -97,7 +97,7 @@ QVariant AttributedString::attribute(const QString &name, std::size_t index, Ran
 {
     requireRange("attribute", within, length());
     if (index < within.location || index >= within.end()) {
-        throw RangeException("attribute", {index, 1}, within.end());
+        throw RangeException("attribute", {index, 1}, length());
     }
     qsizetype first = runHolding(index);
     QVariant value = m_runs[first].attributes.value(name);
