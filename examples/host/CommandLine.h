@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QList>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <optional>
+
+namespace host {
+
+/// What the user wants exported, and how.
+struct ExportRequest {
+    /// One choice of the plug-in.
+    struct Setting {
+        QString key;
+        QString value;
+    };
+
+    QString manuscriptFolder;
+    QString pluginName;
+    QString destination; ///< absolute
+    QString pattern;
+    std::optional<QString> extension; ///< without the dot; nothing for the plug-in's own
+    bool convertSpaces = false;
+    bool replaceFiles = false; ///< the user has agreed beforehand to replace files that exist
+    QList<Setting> settings;
+};
+
+/// The command line taken apart.
+class CommandLine
+{
+public:
+    enum class Task { ShowHelp, ShowVersion, ListPlugins, Export };
+
+    /// Throws `HostError` for options that do not exist or lack their value.
+    explicit CommandLine(const QStringList &arguments);
+
+    Task task() const;
+    QString helpText() const;
+    QString pluginFolder() const;
+
+    /// Throws `HostError` when something is missing or wrong.
+    ExportRequest exportRequest() const;
+
+private:
+    QString requiredValue(const QString &option, const QString &purpose) const;
+    QString manuscriptFolder() const;
+    std::optional<QString> extension() const;
+    QList<ExportRequest::Setting> settings() const;
+
+    QCommandLineParser m_parser;
+};
+
+} // namespace host

@@ -1,0 +1,172 @@
+#include "ManuscriptReader.h"
+
+#include "HostError.h"
+#include "Messages.h"
+
+#include <OrvaneExportKit/platform/Paths.h>
+
+#include <QtCore/QByteArray>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QList>
+#include <QtCore/QStringDecoder>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace host {
+
+namespace {
+
+HostError manuscriptError(const QString &message)
+{
+    return {ExitCode::Manuscript, message};
+}
+
+/// A place in a file as text editors count it: "line 3, column 14".
+QString placeAt(const QByteArray &content, qsizetype offset)
+{
+    const QByteArray before = content.first(offset);
+    const qsizetype lineStart = before.lastIndexOf('\n') + 1;
+    return u"line %1, column %2"_s.arg(before.count('\n') + 1)
+        .arg(QString::fromUtf8(before.sliced(lineStart)).size() + 1);
+}
+
+/// The index of the first byte that is not part of UTF-8 text, for a content that has one.
+qsizetype firstBadByte(const QByteArray &content)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    qsizetype index = 0;
+    while (index < content.size()) {
+        const QString decoded = decoder(QByteArrayView(content).sliced(index, 1));
+        if (decoder.hasError()) {
+            break;
+        }
+        ++index;
+    }
+    return index;
+}
+
+QByteArray fileContent(const QString &path)
+{
+    QFile file(path);
+    QByteArray content;
+    if (file.open(QIODevice::ReadOnly)) {
+        content = file.readAll();
+    }
+    if (file.error() != QFileDevice::NoError) {
+        throw manuscriptError(u"%1 can't be read: %2; check that it is there and that you may read it"_s.arg(
+            quoted(path), file.errorString()));
+    }
+    return content;
+}
+
+QString documentText(const QString &path)
+{
+    const QByteArray content = fileContent(path);
+    if (!content.isValidUtf8()) {
+        const qsizetype offset = firstBadByte(content);
+        throw manuscriptError(u"%1 is no UTF-8 text from byte %2 on (%3); save the file as UTF-8"_s.arg(
+            quoted(path), QString::number(offset), placeAt(content, offset)));
+    }
+    QStringDecoder decoder(QStringDecoder::Utf8); // drops a byte order mark
+    return decoder(content);
+}
+
+/// An object of manuscript.json and how messages call it.
+struct JsonPart {
+    QJsonObject values;
+    QString description;
+};
+
+QString requiredString(const JsonPart &part, const QString &key)
+{
+    const QJsonValue value = part.values.value(key);
+    if (!value.isString()) {
+        throw manuscriptError(u"%1 needs a \"%2\" with a string as its value"_s.arg(part.description, key));
+    }
+    return value.toString();
+}
+
+QString optionalString(const JsonPart &part, const QString &key)
+{
+    return part.values.contains(key) ? requiredString(part, key) : QString();
+}
+
+JsonPart rootPart(const QString &path)
+{
+    const QByteArray content = fileContent(path);
+    QJsonParseError error = {};
+    const QJsonDocument json = QJsonDocument::fromJson(content, &error);
+    if (error.error != QJsonParseError::NoError) {
+        throw manuscriptError(u"%1 is no valid JSON: %2: %3; correct it there"_s.arg(
+            quoted(path), placeAt(content, error.offset), error.errorString()));
+    }
+    if (!json.isObject()) {
+        throw manuscriptError(u"%1 needs an object, {...}, as its content"_s.arg(quoted(path)));
+    }
+    return {json.object(), quoted(path)};
+}
+
+QList<JsonPart> documentParts(const JsonPart &root)
+{
+    const QJsonValue documents = root.values.value("documents"_L1);
+    if (!documents.isArray()) {
+        throw manuscriptError(u"%1 needs a \"documents\" with a list, [...], as its value"_s.arg(root.description));
+    }
+    QList<JsonPart> parts;
+    for (const QJsonValue &document : documents.toArray()) {
+        const QString description = u"document %1 in %2"_s.arg(parts.size() + 1).arg(root.description);
+        if (!document.isObject()) {
+            throw manuscriptError(u"%1 must be an object, {...}"_s.arg(description));
+        }
+        parts.append({document.toObject(), description});
+    }
+    return parts;
+}
+
+ManuscriptDocument::Entry entryOf(const JsonPart &document, const QString &folder)
+{
+    const QString file = requiredString(document, u"file"_s);
+    if (file.isEmpty() || QDir::isAbsolutePath(file) || file.split(u'/').contains(".."_L1)) {
+        throw manuscriptError(u"%1 names the file %2; give a path inside the manuscript's folder"_s.arg(
+            document.description, quoted(file)));
+    }
+    return {platform::appendingPathComponent(folder, file), requiredString(document, u"name"_s),
+            optionalString(document, u"status"_s), optionalString(document, u"label"_s)};
+}
+
+QString manifestPath(const QString &folder)
+{
+    const QFileInfo info(folder);
+    if (!info.exists()) {
+        throw manuscriptError(u"there is no manuscript folder %1; check the path"_s.arg(quoted(folder)));
+    }
+    if (!info.isDir()) {
+        throw manuscriptError(u"%1 is no folder; give the folder that holds manuscript.json"_s.arg(quoted(folder)));
+    }
+    const QString path = platform::appendingPathComponent(folder, u"manuscript.json"_s);
+    if (!QFileInfo::exists(path)) {
+        throw manuscriptError(
+            u"there is no manuscript.json in %1; give the folder that holds it"_s.arg(quoted(folder)));
+    }
+    return path;
+}
+
+} // namespace
+
+Manuscript readManuscript(const QString &folder)
+{
+    const JsonPart root = rootPart(manifestPath(folder));
+    Manuscript manuscript{requiredString(root, u"title"_s), {}};
+    for (const JsonPart &document : documentParts(root)) {
+        const ManuscriptDocument::Entry entry = entryOf(document, folder);
+        manuscript.documents.emplace_back(entry, documentText(entry.path));
+    }
+    return manuscript;
+}
+
+} // namespace host

@@ -1,0 +1,46 @@
+#include "Messages.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace host {
+
+namespace {
+
+constexpr qsizetype longestList = 20;
+
+} // namespace
+
+QString printable(const QString &text)
+{
+    QString shown = text;
+    std::replace_if(
+        shown.begin(), shown.end(), [](QChar character) { return character.category() == QChar::Other_Control; },
+        QChar(QChar::ReplacementCharacter));
+    return shown;
+}
+
+QString quoted(const QString &text)
+{
+    return u'\'' + printable(text) + u'\'';
+}
+
+QString counted(qsizetype count, const QString &noun)
+{
+    return QString::number(count) + u' ' + noun + (count == 1 ? u""_s : u"s"_s);
+}
+
+QString listed(const QStringList &lines)
+{
+    QString list;
+    for (const QString &line : lines.first(std::min(lines.size(), longestList))) {
+        list += u"\n  "_s + line;
+    }
+    if (lines.size() > longestList) {
+        list += u"\n  ... and %1 more"_s.arg(lines.size() - longestList);
+    }
+    return list;
+}
+
+} // namespace host

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+/// \file
+/// The pieces that all messages to the user are made of.
+
+namespace host {
+
+/// A text on one line that a terminal shows as it is: control characters give way to U+FFFD.
+QString printable(const QString &text);
+
+/// A name or path from outside, printable and in quotation marks: 'Tide/Ebb'.
+QString quoted(const QString &text);
+
+/// A number with its noun: "1 document", "2 documents".
+QString counted(qsizetype count, const QString &noun);
+
+/// The lines indented below a message, each on its own; a long list is cut and says so.
+QString listed(const QStringList &lines);
+
+} // namespace host

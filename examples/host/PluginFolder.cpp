@@ -1,0 +1,146 @@
+#include "PluginFolder.h"
+
+#include "HostError.h"
+#include "Messages.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QJsonObject>
+#include <QtCore/QLibrary>
+#include <QtCore/QPluginLoader>
+
+#include <algorithm>
+#include <exception>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace host {
+
+namespace {
+
+HostError pluginError(const QString &message)
+{
+    return {ExitCode::Plugin, message};
+}
+
+/// An interface's identifier taken apart: "OrvaneExportKit.ExportPlugin/" and "1".
+struct InterfaceIdentifier {
+    explicit InterfaceIdentifier(const QString &identifier)
+        : name(identifier.first(identifier.lastIndexOf(u'/') + 1)), version(identifier.sliced(name.size()))
+    {
+    }
+
+    QString name;
+    QString version;
+};
+
+/// Throws unless a library with this identifier is an export plug-in for this program's version of the interface.
+void requireOwnInterface(const QString &identifier)
+{
+    const InterfaceIdentifier own(QStringLiteral(ExportPlugin_iid));
+    const InterfaceIdentifier other(identifier);
+    if (other.name != own.name) {
+        throw pluginError(u"it is a Qt plug-in of another kind, for %1, no export plug-in"_s.arg(quoted(identifier)));
+    }
+    if (other.version != own.version) {
+        throw pluginError(
+            u"it was built for version %1 of the plug-in interface, this program has version %2; rebuild "
+            u"it against the kit that this program came with"_s.arg(printable(other.version), own.version));
+    }
+}
+
+/// Loads the plug-in in a file. What the metadata rules out is never loaded, so none of its code runs.
+ExportPlugin *loadedPlugin(const QString &path)
+{
+    QPluginLoader loader(path);
+    const QString identifier = loader.metaData().value("IID"_L1).toString();
+    if (identifier.isEmpty()) {
+        throw pluginError(u"it is no Qt plug-in: %1"_s.arg(loader.errorString()));
+    }
+    requireOwnInterface(identifier);
+    QObject *instance = loader.instance();
+    if (instance == nullptr) {
+        throw pluginError(loader.errorString());
+    }
+    auto *plugin = qobject_cast<ExportPlugin *>(instance);
+    if (plugin == nullptr) {
+        throw pluginError(u"its class %1 does not offer the interface that its metadata names"_s.arg(
+            QLatin1StringView(instance->metaObject()->className())));
+    }
+    return plugin;
+}
+
+QStringList namesOf(const QList<ExportPlugin *> &plugins)
+{
+    QStringList names;
+    for (const ExportPlugin *plugin : plugins) {
+        names.append(plugin->name());
+    }
+    return names;
+}
+
+} // namespace
+
+PluginFolder::PluginFolder(const QString &path) : m_path(path)
+{
+    const QDir folder(path);
+    if (!folder.exists()) {
+        throw pluginError(
+            u"there is no plug-in folder %1; name one by --plugin-folder or ORVANE_PLUGIN_PATH"_s.arg(quoted(path)));
+    }
+    for (const QString &name : folder.entryList(QDir::Files, QDir::Name)) {
+        if (QLibrary::isLibrary(name)) {
+            add(folder.filePath(name));
+        }
+    }
+}
+
+ExportPlugin &PluginFolder::pluginNamed(const QString &name) const
+{
+    ExportPlugin *plugin = findPlugin(name);
+    if (plugin == nullptr) {
+        const QString names = m_plugins.isEmpty() ? u"none"_s : namesOf(m_plugins).join(", "_L1);
+        throw pluginError(
+            u"there is no plug-in %1 in the folder %2; it holds: %3"_s.arg(quoted(name), quoted(m_path), names) +
+            listed(m_problems));
+    }
+    return *plugin;
+}
+
+ExportPlugin *PluginFolder::findPlugin(const QString &name) const
+{
+    const auto found = std::find_if(m_plugins.begin(), m_plugins.end(),
+                                    [&name](const ExportPlugin *plugin) { return plugin->name() == name; });
+    return found == m_plugins.end() ? nullptr : *found;
+}
+
+void PluginFolder::add(const QString &file)
+{
+    QString reason = u"it failed while it was loaded"_s;
+    try {
+        ExportPlugin *plugin = loadedPlugin(file);
+        if (findPlugin(plugin->name()) == nullptr) {
+            m_plugins.append(plugin);
+            return;
+        }
+        reason = u"the folder holds another plug-in of the name %1"_s.arg(quoted(plugin->name()));
+    } catch (const HostError &error) {
+        reason = error.message();
+    } catch (const std::exception &exception) {
+        reason += u": "_s + printable(QString::fromUtf8(exception.what()));
+    } catch (...) {
+        // It does not say why.
+    }
+    m_problems.append(u"%1 can't be used: %2"_s.arg(quoted(file), reason));
+}
+
+QString defaultPluginFolder()
+{
+    const QString named = qEnvironmentVariable("ORVANE_PLUGIN_PATH");
+    if (!named.isEmpty()) {
+        return named;
+    }
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/" ORVANE_PLUGINS_FROM_PROGRAM ""_s);
+}
+
+} // namespace host

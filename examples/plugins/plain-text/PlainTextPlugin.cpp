@@ -1,0 +1,301 @@
+#include "PlainTextPlugin.h"
+
+#include <OrvaneExportKit/text/EscapeSequences.h>
+#include <OrvaneExportKit/text/LineLayout.h>
+#include <OrvaneExportKit/text/QuotationMarks.h>
+#include <OrvaneExportKit/text/RangeLists.h>
+#include <OrvaneExportKit/text/TaggedSpans.h>
+#include <OrvaneExportKit/text/Typography.h>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace KZMutableStringExportAdditions;
+
+namespace {
+
+using Options = PlainTextPlugin::Options;
+using TagPair = PlainTextPlugin::TagPair;
+
+constexpr quint32 widestTab = 64;
+
+std::optional<quint32> numberUpTo(quint32 maximum, const QString &value)
+{
+    bool isNumber = false;
+    const quint32 number = value.toUInt(&isNumber);
+    return isNumber && number <= maximum ? std::optional(number) : std::nullopt;
+}
+
+/// The items of a list with their escape sequences converted; nothing when an item is empty.
+std::optional<QStringList> items(const QString &value, QChar separator)
+{
+    QStringList converted;
+    if (value.isEmpty()) {
+        return converted;
+    }
+    for (const QString &item : value.split(separator)) {
+        if (item.isEmpty()) {
+            return std::nullopt;
+        }
+        converted.append(KZStringExportAdditions::stringWithConvertedEscSequences(item));
+    }
+    return converted;
+}
+
+// Each of these sets one choice and answers whether the choice takes the value.
+
+bool setLineLength(Options &options, const QString &value)
+{
+    const auto length = numberUpTo(std::numeric_limits<quint32>::max(), value);
+    options.lineLength = length.value_or(options.lineLength);
+    return length.has_value();
+}
+
+bool setQuotationStyle(Options &options, const QString &value)
+{
+    const auto style = numberUpTo(5, value);
+    if (!style && value != u"none") {
+        return false;
+    }
+    options.quotationStyle = style ? std::optional(static_cast<qint32>(*style)) : std::nullopt;
+    return true;
+}
+
+bool setInlineTags(Options &options, const QString &value)
+{
+    const auto pairs = items(value, u';');
+    if (!pairs) {
+        return false;
+    }
+    QList<TagPair> tags;
+    for (const QString &pair : *pairs) {
+        const QStringList startAndStop = pair.split(u',');
+        if (startAndStop.size() != 2 || startAndStop.contains(QString())) {
+            return false;
+        }
+        tags.append({startAndStop.first(), startAndStop.last()});
+    }
+    options.inlineTags = std::move(tags);
+    return true;
+}
+
+bool setLevelStrings(Options &options, const QString &value)
+{
+    auto strings = items(value, u',');
+    if (!strings) {
+        return false;
+    }
+    // "#" would take the first unit of "##" away, so the longer one must have its turn before.
+    std::stable_sort(strings->begin(), strings->end(),
+                     [](const QString &a, const QString &b) { return a.size() > b.size(); });
+    options.levelStrings = *std::move(strings);
+    return true;
+}
+
+bool setParagraphMarks(Options &options, const QString &value)
+{
+    auto marks = items(value, u',');
+    if (!marks) {
+        return false;
+    }
+    options.paragraphMarks = *std::move(marks);
+    return true;
+}
+
+bool setTabWidth(Options &options, const QString &value)
+{
+    const auto width = numberUpTo(widestTab, value);
+    if (!width && value != u"keep") {
+        return false;
+    }
+    options.tabWidth = width;
+    return true;
+}
+
+/// Sets a flag to whether the value is the word for true; it takes no other words than these two.
+bool setFlag(bool &flag, const QString &value, QStringView wordForTrue, QStringView wordForFalse)
+{
+    if (value != wordForTrue && value != wordForFalse) {
+        return false;
+    }
+    flag = value == wordForTrue;
+    return true;
+}
+
+bool setEmptyLines(Options &options, const QString &value)
+{
+    return setFlag(options.keepsEmptyLines, value, u"keep", u"drop");
+}
+
+bool setTypography(Options &options, const QString &value)
+{
+    return setFlag(options.correctsTypography, value, u"yes", u"no");
+}
+
+struct ChoiceRule {
+    QString key;
+    QString defaultValue;
+    QString purpose;
+    QString allowedValues;
+    bool (*set)(Options &options, const QString &value);
+};
+
+const QList<ChoiceRule> &choiceRules()
+{
+    static const QList<ChoiceRule> rules = {
+        {u"line-length"_s, u"72"_s, u"breaks lines that are longer"_s, u"a number; 0 keeps long lines"_s,
+         setLineLength},
+        {u"quotation-style"_s, u"3"_s, u"makes straight quotation marks typographic"_s,
+         u"a style from 0 to 5, or none"_s, setQuotationStyle},
+        {u"inline-tags"_s, u"**,**;//,//"_s, u"deletes the tags around inline spans"_s,
+         u"pairs start,stop separated by semicolons"_s, setInlineTags},
+        {u"level-strings"_s, u"###,##,#"_s, u"deletes the marks of headings at the start of lines"_s,
+         u"strings separated by commas"_s, setLevelStrings},
+        {u"paragraph-marks"_s, u">"_s, u"deletes the marks of paragraphs at the start of lines"_s,
+         u"strings separated by commas"_s, setParagraphMarks},
+        {u"tab-width"_s, u"4"_s, u"makes blanks of the tabs at the start of lines"_s,
+         u"a number from 0 to %1, or keep"_s.arg(widestTab), setTabWidth},
+        {u"empty-lines"_s, u"keep"_s, u"what becomes of empty lines"_s, u"keep or drop"_s, setEmptyLines},
+        {u"typography"_s, u"yes"_s, u"corrects ellipses, apostrophes and dashes"_s, u"yes or no"_s, setTypography},
+    };
+    return rules;
+}
+
+void endLinesWithLineFeeds(QString &text)
+{
+    text.replace("\r\n"_L1, "\n"_L1);
+    text.replace(u'\r', u'\n');
+}
+
+void deleteTags(QString &text, const TagPair &tags)
+{
+    deleteCharactersInRanges(text, KZStringExportAdditions::rangesForStartTag(text, tags.start, tags.stop));
+}
+
+void deleteParagraphMarks(QString &text, const QStringList &marks)
+{
+    platform::AttributedString marked(std::move(text));
+    for (const QString &mark : marks) {
+        KZMutableAttributedStringExportAdditions::deleteParagraphMark(
+            marked, mark, KZAttributedStringExportAdditions::lineRangesForLevelString(marked, mark));
+    }
+    text = marked.string();
+}
+
+void correctTypography(QString &text)
+{
+    convertEllipses(text);
+    correctApostrophes(text);
+    correctDashes(text);
+}
+
+/// Takes out the line feeds that wrapping has put between the two units of a character.
+void rejoinSurrogates(QString &text)
+{
+    platform::RangeList breaks;
+    for (qsizetype at = text.indexOf(u'\n', 1); at >= 0 && at + 1 < text.size(); at = text.indexOf(u'\n', at + 1)) {
+        if (text[at - 1].isHighSurrogate() && text[at + 1].isLowSurrogate()) {
+            breaks.push_back({static_cast<std::size_t>(at), 1});
+        }
+    }
+    deleteCharactersInRanges(text, breaks);
+}
+
+QString withoutLeadingSpaces(const QString &text)
+{
+    const auto start =
+        std::find_if(text.begin(), text.end(), [](QChar character) { return character != u' '; }) - text.begin();
+    return text.sliced(start);
+}
+
+/// Breaks lines that are longer than the limit. A text that begins with an indented word longer than the limit loses
+/// that indent: there is no place for a break before the word.
+void wrapLines(QString &text, quint32 limit)
+{
+    const QString unwrapped = text;
+    try {
+        setMaxLineLength(text, limit);
+    } catch (const platform::RangeException &) {
+        text = withoutLeadingSpaces(unwrapped);
+        setMaxLineLength(text, limit);
+    }
+    rejoinSurrogates(text);
+}
+
+} // namespace
+
+PlainTextPlugin::PlainTextPlugin()
+{
+    for (const ChoiceRule &rule : choiceRules()) {
+        rule.set(m_options, rule.defaultValue);
+    }
+}
+
+QString PlainTextPlugin::name() const
+{
+    return u"plain-text"_s;
+}
+
+QString PlainTextPlugin::displayName() const
+{
+    return u"Plain Text"_s;
+}
+
+QString PlainTextPlugin::pathExtension() const
+{
+    return u"txt"_s;
+}
+
+QList<ExportPlugin::Choice> PlainTextPlugin::choices() const
+{
+    QList<Choice> choices;
+    for (const ChoiceRule &rule : choiceRules()) {
+        choices.append({rule.key, rule.defaultValue, rule.purpose + u" ("_s + rule.allowedValues + u')'});
+    }
+    return choices;
+}
+
+void PlainTextPlugin::setChoice(const QString &key, const QString &value)
+{
+    const QList<ChoiceRule> &rules = choiceRules();
+    const auto rule = std::find_if(rules.begin(), rules.end(), [&key](const auto &other) { return other.key == key; });
+    if (rule == rules.end()) {
+        throw platform::InvalidArgumentException("there is no choice '" + key.toStdString() + "'");
+    }
+    if (!rule->set(m_options, value)) {
+        throw platform::InvalidArgumentException(
+            u"%1 takes %2; '%3' is nothing of that"_s.arg(key, rule->allowedValues, value).toStdString());
+    }
+}
+
+QByteArray PlainTextPlugin::exportedData(const ExportDocument & /*document*/,
+                                         const platform::AttributedString &text) const
+{
+    QString plain = text.string();
+    endLinesWithLineFeeds(plain);
+    for (const TagPair &tags : m_options.inlineTags) {
+        deleteTags(plain, tags);
+    }
+    for (const QString &levelString : m_options.levelStrings) {
+        deleteLevelMark(plain, levelString);
+    }
+    deleteParagraphMarks(plain, m_options.paragraphMarks);
+    if (m_options.quotationStyle) {
+        convertQuotationsToType(plain, *m_options.quotationStyle);
+    }
+    if (m_options.correctsTypography) {
+        correctTypography(plain);
+    }
+    if (m_options.tabWidth) {
+        convertStartTabsToSpace(plain, *m_options.tabWidth);
+    }
+    if (!m_options.keepsEmptyLines) {
+        deleteEmptyLines(plain);
+    }
+    if (m_options.lineLength > 0) {
+        wrapLines(plain, m_options.lineLength);
+    }
+    return plain.toUtf8();
+}
