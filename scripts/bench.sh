@@ -1,0 +1,11 @@
+#!/usr/bin/env bash
+# Builds and runs the benchmarks; arguments go to the benchmark program (--benchmark_filter=REGEX, for instance).
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/packages.sh
+
+install_packages "${build_packages[@]}" "${bench_packages[@]}"
+cmake --preset release -B build/bench -DORVANE_BUILD_TESTS=OFF -DORVANE_BUILD_EXAMPLES=OFF \
+    -DORVANE_BUILD_BENCHMARKS=ON -DCMAKE_CXX_COMPILER_LAUNCHER=ccache
+cmake --build build/bench
+build/bench/benchmarks/text_benchmarks "$@"

@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# Builds everything and runs all tests: the whole suite, the suite under sanitizers, and Core without windows.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/packages.sh
+
+install_packages "${build_packages[@]}" "${test_packages[@]}"
+export QT_QPA_PLATFORM=offscreen
+
+# Configures, builds and tests one build folder: its name, then options for CMake.
+build_and_test() {
+    local folder=$1
+    shift
+    printf '\n== %s ==\n' "$folder"
+    cmake -B "build/$folder" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@"
+    cmake --build "build/$folder"
+    ctest --test-dir "build/$folder" --output-on-failure --no-tests=error -j "$(nproc)"
+}
+
+build_and_test release --preset release
+build_and_test sanitize --preset sanitize
+build_and_test core-alone --preset release -DORVANE_BUILD_EXAMPLES=OFF \
+    -DCMAKE_DISABLE_FIND_PACKAGE_Qt6Widgets=ON -DCMAKE_DISABLE_FIND_PACKAGE_Qt6UiTools=ON
+scripts/lint.sh build/release
