@@ -8,6 +8,7 @@
 #include <OrvaneExportKit/platform/LineRanges.h>
 #include <OrvaneExportKit/platform/OpenPanel.h>
 #include <OrvaneExportKit/platform/Paths.h>
+#include <OrvaneExportKit/platform/PropertyList.h>
 #include <OrvaneExportKit/platform/Range.h>
 #include <OrvaneExportKit/platform/TextEdits.h>
 #include <OrvaneExportKit/run/ExportDocument.h>

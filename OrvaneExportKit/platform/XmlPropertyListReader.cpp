@@ -1,0 +1,195 @@
+#include <OrvaneExportKit/platform/XmlPropertyListReader.h>
+
+#include <OrvaneExportKit/platform/PropertyList.h>
+#include <OrvaneExportKit/platform/PropertyListValues.h>
+#include <OrvaneExportKit/platform/XmlScalars.h>
+#include <OrvaneExportKit/platform/XmlScanner.h>
+#include <OrvaneExportKit/platform/XmlText.h>
+
+#include <QtCore/QDateTime>
+
+#include <limits>
+#include <string_view>
+
+namespace platform {
+
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+class Reader
+{
+public:
+    explicit Reader(std::string_view text) : m_scanner(text) {}
+
+    QVariant read();
+
+private:
+    // `containers` counts the arrays and dictionaries around the value.
+    QVariant readValue(const XmlTag &tag, int containers);
+    QVariant readArray(const XmlTag &tag, int containers);
+    QVariant readDictionary(const XmlTag &tag, int containers);
+    QVariant readBoolean(const XmlTag &tag);
+    template <typename Parse>
+    QVariant readScalar(const XmlTag &tag, const Parse &parse, const QString &kind);
+    QString readText(const XmlTag &tag);
+    QVariant uidOrDictionary(const XmlTag &tag, const QVariantMap &entries) const;
+    void requireNesting(const XmlTag &tag, int containers) const;
+
+    XmlScanner m_scanner;
+};
+
+QVariant Reader::read()
+{
+    m_scanner.skipProlog();
+    const XmlTag root = m_scanner.nextTag({});
+    if (root.name != "plist" || root.form == XmlTag::Form::End) {
+        return readValue(root, 0);
+    }
+    const XmlTag first = root.form == XmlTag::Form::Empty ? root : m_scanner.nextTag(root.name);
+    if (root.form == XmlTag::Form::Empty || first.form == XmlTag::Form::End) {
+        m_scanner.fail(first, u"`<plist>` holds no value"_s);
+    }
+    const QVariant value = readValue(first, 0);
+    const XmlTag end = m_scanner.nextTag(root.name);
+    if (end.form != XmlTag::Form::End) {
+        m_scanner.fail(end, u"`<plist>` holds more than one value"_s);
+    }
+    m_scanner.requireEnd(end, root.name);
+    return value;
+}
+
+QVariant Reader::readValue(const XmlTag &tag, int containers)
+{
+    if (tag.form == XmlTag::Form::End) {
+        m_scanner.fail(tag, u"there is no element for this end tag to close"_s);
+    }
+    if (tag.name == "string") {
+        return readText(tag);
+    }
+    if (tag.name == "integer") {
+        return readScalar(tag, integerFromXml, u"an integer from -2^63 to 2^64-1"_s);
+    }
+    if (tag.name == "real") {
+        return readScalar(tag, realFromXml, u"a real number"_s);
+    }
+    if (tag.name == "true" || tag.name == "false") {
+        return readBoolean(tag);
+    }
+    if (tag.name == "dict") {
+        return readDictionary(tag, containers);
+    }
+    if (tag.name == "array") {
+        return readArray(tag, containers);
+    }
+    if (tag.name == "date") {
+        return readScalar(tag, dateFromXml, u"a date of the form YYYY-MM-DDThh:mm:ssZ"_s);
+    }
+    if (tag.name == "data") {
+        return readScalar(tag, dataFromXml, u"base64 text"_s);
+    }
+    if (tag.name == "key" || tag.name == "plist") {
+        m_scanner.fail(tag, quoted(tag.source) + u" stands where a value should"_s);
+    }
+    m_scanner.fail(tag, quoted(tag.source) + u" is not a property-list element"_s);
+}
+
+QVariant Reader::readArray(const XmlTag &tag, int containers)
+{
+    requireNesting(tag, containers);
+    QVariantList elements;
+    if (tag.form == XmlTag::Form::Empty) {
+        return elements;
+    }
+    XmlTag child = m_scanner.nextTag(tag.name);
+    for (; child.form != XmlTag::Form::End; child = m_scanner.nextTag(tag.name)) {
+        elements.append(readValue(child, containers + 1));
+    }
+    m_scanner.requireEnd(child, tag.name);
+    return elements;
+}
+
+QVariant Reader::readDictionary(const XmlTag &tag, int containers)
+{
+    requireNesting(tag, containers);
+    QVariantMap entries;
+    if (tag.form == XmlTag::Form::Empty) {
+        return entries;
+    }
+    XmlTag keyTag = m_scanner.nextTag(tag.name);
+    for (; keyTag.form != XmlTag::Form::End; keyTag = m_scanner.nextTag(tag.name)) {
+        if (keyTag.name != "key") {
+            m_scanner.fail(keyTag, u"this value in a dictionary has no key"_s);
+        }
+        const QString key = readText(keyTag);
+        const XmlTag valueTag = m_scanner.nextTag(tag.name);
+        if (valueTag.form == XmlTag::Form::End || valueTag.name == "key") {
+            m_scanner.fail(keyTag, u"this key in a dictionary has no value"_s);
+        }
+        entries.insert(entries.cend(), key, readValue(valueTag, containers + 1)); // keys mostly come in order
+    }
+    m_scanner.requireEnd(keyTag, tag.name);
+    return uidOrDictionary(tag, entries);
+}
+
+/// A dictionary that is the written form of a UID is that UID.
+QVariant Reader::uidOrDictionary(const XmlTag &tag, const QVariantMap &entries) const
+{
+    if (entries.size() != 1 || entries.firstKey() != xmlUidKey) {
+        return entries;
+    }
+    const QVariant &number = entries.first();
+    switch (propertyListKind(number)) {
+    case PropertyListKind::SignedInteger:
+        if (const qint64 uid = number.toLongLong(); uid >= 0 && uid <= std::numeric_limits<quint32>::max()) {
+            return QVariant::fromValue(PropertyList::Uid{static_cast<quint32>(uid)});
+        }
+        [[fallthrough]];
+    case PropertyListKind::UnsignedInteger:
+        m_scanner.fail(tag, u"a UID is a number from 0 to 4294967295"_s);
+    default:
+        return entries;
+    }
+}
+
+QVariant Reader::readBoolean(const XmlTag &tag)
+{
+    if (tag.form == XmlTag::Form::Start) {
+        m_scanner.requireEnd(m_scanner.nextTag(tag.name), tag.name);
+    }
+    return tag.name == "true";
+}
+
+template <typename Parse>
+QVariant Reader::readScalar(const XmlTag &tag, const Parse &parse, const QString &kind)
+{
+    const std::string_view content = m_scanner.readContent(tag);
+    const auto value = parse(content);
+    if (tag.form == XmlTag::Form::Empty || !value) {
+        m_scanner.fail(tag, quoted(content) + u" is not "_s + kind);
+    }
+    return *value;
+}
+
+QString Reader::readText(const XmlTag &tag)
+{
+    const std::string_view content = m_scanner.readContent(tag);
+    return QString::fromUtf8(content.data(), static_cast<qsizetype>(content.size()));
+}
+
+void Reader::requireNesting(const XmlTag &tag, int containers) const
+{
+    if (containers == PropertyList::maximumNesting) {
+        m_scanner.fail(tag, u"more than %1 containers stand inside each other"_s.arg(PropertyList::maximumNesting));
+    }
+}
+
+} // namespace
+
+QVariant readXmlPropertyList(QByteArrayView data)
+{
+    const QByteArray text = xmlText(data);
+    return Reader({text.data(), static_cast<std::size_t>(text.size())}).read();
+}
+
+} // namespace platform
