@@ -11,6 +11,7 @@
 #include <OrvaneExportKit/platform/PropertyList.h>
 #include <OrvaneExportKit/platform/Range.h>
 #include <OrvaneExportKit/platform/TextEdits.h>
+#include <OrvaneExportKit/platform/UserDefaults.h>
 #include <OrvaneExportKit/run/ExportDocument.h>
 #include <OrvaneExportKit/run/ExportPlugin.h>
 #include <OrvaneExportKit/run/FileNameChecks.h>

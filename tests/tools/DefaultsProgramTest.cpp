@@ -1,0 +1,379 @@
+#include <OrvaneExportKit/platform/UserDefaults.h>
+#include <OrvaneExportKit/version.h>
+#include <tests/support/DefaultsFolder.h>
+#include <tests/support/Files.h>
+#include <tests/support/Printers.h>
+
+#include <gtest/gtest.h>
+
+#include <QtCore/QDateTime>
+#include <QtCore/QProcess>
+#include <QtCore/QProcessEnvironment>
+#include <QtCore/QTimeZone>
+
+using namespace Qt::Literals::StringLiterals;
+using platform::UserDefaults;
+
+namespace {
+
+constexpr int wrongCommandLine = 1;
+constexpr int notSet = 2;
+constexpr int failure = 3;
+
+const QString domainName = QStringLiteral("com.example.plain-text");
+
+struct Result {
+    int exitCode; ///< -1 when a signal ended the program
+    QString output;
+    QString errors;
+};
+
+/// Succeeds when the program did what it was asked, printed this and reported nothing.
+testing::AssertionResult printed(const Result &result, const QString &output)
+{
+    if (result.exitCode == 0 && result.output == output && result.errors.isEmpty()) {
+        return testing::AssertionSuccess();
+    }
+    return testing::AssertionFailure() << "exit code " << result.exitCode << ", printed "
+                                       << testing::PrintToString(result.output) << ", reported "
+                                       << testing::PrintToString(result.errors);
+}
+
+/// Succeeds when the program ended with the code, printed nothing, and reported this in one line that says whose it is.
+testing::AssertionResult failed(const Result &result, int exitCode, const QString &report)
+{
+    if (result.exitCode == exitCode && result.output.isEmpty() && result.errors.startsWith(u"orvane-defaults: "_s) &&
+        result.errors.count(u'\n') == 1 && result.errors.contains(report)) {
+        return testing::AssertionSuccess();
+    }
+    return testing::AssertionFailure() << "exit code " << result.exitCode << ", printed "
+                                       << testing::PrintToString(result.output) << ", reported "
+                                       << testing::PrintToString(result.errors) << " for "
+                                       << testing::PrintToString(report);
+}
+
+class DefaultsProgram : public support::DefaultsFolder
+{
+protected:
+    DefaultsProgram()
+    {
+        environment.insert(u"ORVANE_DEFAULTS_FOLDER"_s, folder());
+        environment.insert(u"TZ"_s, u"UTC"_s);
+    }
+
+    Result run(const QStringList &arguments, const QByteArray &input = {}) const
+    {
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(DEFAULTS_PROGRAM), arguments);
+        process.write(input);
+        process.closeWriteChannel();
+        return finished(process);
+    }
+
+    static Result finished(QProcess &process)
+    {
+        EXPECT_TRUE(process.waitForFinished()) << testing::PrintToString(process.errorString());
+        const int exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+        return {exitCode, QString::fromUtf8(process.readAllStandardOutput()),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+
+    void set(const QVariantMap &domain, const QString &name = domainName) const
+    {
+        ASSERT_TRUE(UserDefaults(folder()).setPersistentDomain(domain, name));
+    }
+
+    QString savedText() const { return QString::fromUtf8(support::fileContent(path(domainName))); }
+
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+};
+
+TEST_F(DefaultsProgram, HelpExplainsCommandsTypesFilesAndExitCodes)
+{
+    const Result result = run({u"--help"_s});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.errors, QString());
+    for (const QString &word : {u"\n  domains "_s,
+                                u"\n  read DOMAIN KEY "_s,
+                                u"\n  write DOMAIN KEY VALUE "_s,
+                                u"\n  delete DOMAIN KEY "_s,
+                                u"\n  export DOMAIN "_s,
+                                u"\n  import DOMAIN "_s,
+                                u"-g, --global "_s,
+                                u"--type "_s,
+                                u"\n  string "_s,
+                                u"\n  int "_s,
+                                u"\n  float "_s,
+                                u"\n  bool "_s,
+                                u"\n  date "_s,
+                                u"\n  data "_s,
+                                u"\n  plist "_s,
+                                u"orvane-export-kit"_s,
+                                u"ORVANE_DEFAULTS_FOLDER"_s,
+                                u".unreadable-1"_s,
+                                u"\n  0  "_s,
+                                u"\n  1  "_s,
+                                u"\n  2  "_s,
+                                u"\n  3  "_s}) {
+        EXPECT_TRUE(support::contains(result.output, word));
+    }
+    EXPECT_TRUE(printed(run({u"-h"_s}), result.output));
+}
+
+TEST_F(DefaultsProgram, VersionIsThatOfTheKit)
+{
+    EXPECT_TRUE(printed(run({u"--version"_s}), u"orvane-defaults " ORVANE_EXPORT_KIT_VERSION_STRING "\n"_s));
+}
+
+TEST_F(DefaultsProgram, DomainsAreListedByNameOneALine)
+{
+    EXPECT_TRUE(printed(run({u"domains"_s}), QString()));
+    set({}, u"org.example.b"_s);
+    set({}, u"org.example.a"_s);
+    set({}, UserDefaults::globalDomain());
+    EXPECT_TRUE(printed(run({u"domains"_s}), u"GlobalDomain\norg.example.a\norg.example.b\n"_s));
+}
+
+TEST_F(DefaultsProgram, ReadPrintsADomainAsItsFileHoldsIt)
+{
+    set({{u"b"_s, QVariantList{u"x"_s, 1}}, {u"a"_s, u"ä"_s}});
+    EXPECT_TRUE(printed(run({u"read"_s, domainName}), savedText()));
+}
+
+TEST_F(DefaultsProgram, ReadPrintsOneValueAsPlainText)
+{
+    set({
+        {u"string"_s, u"two\nlines ä"_s},
+        {u"integer"_s, -3},
+        {u"large"_s, Q_UINT64_C(18446744073709551615)},
+        {u"real"_s, 0.1},
+        {u"whole"_s, 2.0},
+        {u"boolean"_s, false},
+        {u"date"_s, QDateTime({2024, 12, 31}, {18, 0, 5}, QTimeZone(3600))},
+        {u"data"_s, QByteArray("\0\xff", 2)},
+    });
+    EXPECT_TRUE(printed(run({u"read"_s, domainName, u"string"_s}), u"two\nlines ä\n"_s));
+    EXPECT_TRUE(printed(run({u"read"_s, domainName, u"integer"_s}), u"-3\n"_s));
+    EXPECT_TRUE(printed(run({u"read"_s, domainName, u"large"_s}), u"18446744073709551615\n"_s));
+    EXPECT_TRUE(printed(run({u"read"_s, domainName, u"real"_s}), u"0.1\n"_s));
+    EXPECT_TRUE(printed(run({u"read"_s, domainName, u"whole"_s}), u"2\n"_s));
+    EXPECT_TRUE(printed(run({u"read"_s, domainName, u"boolean"_s}), u"false\n"_s));
+    EXPECT_TRUE(printed(run({u"read"_s, domainName, u"date"_s}), u"2024-12-31T17:00:05Z\n"_s));
+    EXPECT_TRUE(printed(run({u"read"_s, domainName, u"data"_s}), u"AP8=\n"_s));
+}
+
+TEST_F(DefaultsProgram, ReadPrintsAnArrayAsAPropertyList)
+{
+    set({{u"styles"_s, QVariantList{u"bold"_s}}});
+    const Result result = run({u"read"_s, domainName, u"styles"_s});
+    EXPECT_TRUE(support::contains(result.output, u"<array>\n\t<string>bold</string>\n</array>\n</plist>\n"_s));
+    EXPECT_TRUE(printed(result, result.output));
+    EXPECT_TRUE(printed(run({u"write"_s, domainName, u"copy"_s, result.output, u"--type=plist"_s}), QString()));
+    EXPECT_EQ(savedDomain(domainName)->value(u"copy"_s), QVariantList{u"bold"_s});
+}
+
+TEST_F(DefaultsProgram, ReadSaysWhatIsNotSet)
+{
+    EXPECT_TRUE(failed(run({u"read"_s, domainName}), notSet, u"no domain 'com.example.plain-text'"_s));
+    EXPECT_TRUE(failed(run({u"read"_s, u"-g"_s}), notSet, u"no domain 'GlobalDomain'"_s));
+    set({{u"a"_s, 1}});
+    EXPECT_TRUE(failed(run({u"read"_s, domainName, u"b"_s}), notSet, u"no key 'b'"_s));
+}
+
+TEST_F(DefaultsProgram, WriteTakesEveryType)
+{
+    const auto write = [this](const QString &type, const QString &value) {
+        EXPECT_TRUE(printed(run({u"write"_s, u"--type"_s, type, domainName, type, u"--"_s, value}), QString()));
+        return savedDomain(domainName).value_or(QVariantMap()).value(type);
+    };
+    EXPECT_EQ(write(u"string"_s, u"--ä 5 "_s), u"--ä 5 "_s);
+    EXPECT_EQ(write(u"int"_s, u"-3"_s), QVariant(qint64(-3)));
+    EXPECT_EQ(write(u"int"_s, u"18446744073709551615"_s), QVariant(Q_UINT64_C(18446744073709551615)));
+    EXPECT_EQ(write(u"float"_s, u"-2.54"_s), QVariant(-2.54));
+    EXPECT_EQ(write(u"bool"_s, u"yes"_s), QVariant(true));
+    EXPECT_EQ(write(u"bool"_s, u"false"_s), QVariant(false));
+    EXPECT_EQ(write(u"date"_s, u"2024-12-31T18:00:05+01:00"_s),
+              QVariant(QDateTime({2024, 12, 31}, {17, 0, 5}, QTimeZone::utc())));
+    EXPECT_EQ(write(u"date"_s, u"2024-12-31"_s), QVariant(QDateTime({2024, 12, 31}, {0, 0}, QTimeZone::utc())));
+    EXPECT_EQ(write(u"data"_s, u"AP8="_s), QVariant(QByteArray("\0\xff", 2)));
+    EXPECT_EQ(write(u"plist"_s, u"<plist><dict><key>a</key><true/></dict></plist>"_s),
+              QVariant(QVariantMap{{u"a"_s, true}}));
+}
+
+TEST_F(DefaultsProgram, WriteRefusesAValueThatIsNotOfItsType)
+{
+    set({{u"key"_s, u"old"_s}});
+    for (const auto &[type, value] : QList<std::pair<QString, QString>>{{u"int"_s, u"5.0"_s},
+                                                                        {u"int"_s, u"18446744073709551616"_s},
+                                                                        {u"float"_s, u"2,54"_s},
+                                                                        {u"bool"_s, u"maybe"_s},
+                                                                        {u"date"_s, u"tomorrow"_s},
+                                                                        {u"data"_s, u"*"_s},
+                                                                        {u"colour"_s, u"red"_s}}) {
+        EXPECT_TRUE(failed(run({u"write"_s, domainName, u"key"_s, value, u"--type"_s, type}), wrongCommandLine, type));
+    }
+    EXPECT_TRUE(failed(run({u"write"_s, domainName, u"key"_s, u"<plist>"_s, u"--type"_s, u"plist"_s}), wrongCommandLine,
+                       u"line 1, column "_s));
+    EXPECT_EQ(savedDomain(domainName), (QVariantMap{{u"key"_s, u"old"_s}}));
+}
+
+TEST_F(DefaultsProgram, WriteKeepsTheOtherKeys)
+{
+    set({{u"a"_s, 1}, {u"b"_s, 2}});
+    EXPECT_TRUE(printed(run({u"write"_s, domainName, u"b"_s, u"new"_s}), QString()));
+    EXPECT_EQ(savedDomain(domainName), (QVariantMap{{u"a"_s, 1}, {u"b"_s, u"new"_s}}));
+}
+
+TEST_F(DefaultsProgram, GlobalTakesThePlaceOfTheDomain)
+{
+    EXPECT_TRUE(printed(run({u"write"_s, u"-g"_s, u"AppleMeasurementUnits"_s, u"Inches"_s}), QString()));
+    EXPECT_TRUE(printed(run({u"read"_s, u"--global"_s, u"AppleMeasurementUnits"_s}), u"Inches\n"_s));
+    EXPECT_EQ(UserDefaults(folder()).objectForKey(u"AppleMeasurementUnits"_s), u"Inches"_s);
+    EXPECT_TRUE(printed(run({u"-g"_s, u"delete"_s}), QString()));
+    EXPECT_TRUE(printed(run({u"domains"_s}), QString()));
+}
+
+TEST_F(DefaultsProgram, DeleteRemovesAKeyOrADomain)
+{
+    set({{u"a"_s, 1}, {u"b"_s, 2}});
+    EXPECT_TRUE(printed(run({u"delete"_s, domainName, u"a"_s}), QString()));
+    EXPECT_EQ(savedDomain(domainName), (QVariantMap{{u"b"_s, 2}}));
+    EXPECT_TRUE(failed(run({u"delete"_s, domainName, u"a"_s}), notSet, u"no key 'a'"_s));
+    EXPECT_TRUE(printed(run({u"delete"_s, domainName}), QString()));
+    EXPECT_EQ(savedDomain(domainName), std::nullopt);
+    EXPECT_TRUE(failed(run({u"delete"_s, domainName}), notSet, u"no domain"_s));
+}
+
+TEST_F(DefaultsProgram, ExportAndImportCarryADomainOver)
+{
+    const QVariantMap domain{{u"a"_s, QVariantList{1, 2.5, true}}, {u"b"_s, u"ä"_s}};
+    set(domain);
+    const QString file = parentFolder() + u"/backup.plist"_s;
+    EXPECT_TRUE(printed(run({u"export"_s, domainName, file}), QString()));
+    EXPECT_EQ(support::fileContent(file), support::fileContent(path(domainName)));
+    EXPECT_TRUE(printed(run({u"export"_s, domainName}), savedText()));
+    EXPECT_TRUE(printed(run({u"export"_s, domainName, u"-"_s}), savedText()));
+
+    set({{u"old"_s, true}}, u"copy"_s);
+    EXPECT_TRUE(printed(run({u"import"_s, u"copy"_s, file}), QString()));
+    EXPECT_EQ(savedDomain(u"copy"_s), domain);
+    EXPECT_TRUE(printed(run({u"import"_s, u"-g"_s, u"-"_s}, support::fileContent(file)), QString()));
+    EXPECT_EQ(savedDomain(UserDefaults::globalDomain()), domain);
+}
+
+TEST_F(DefaultsProgram, ImportTakesABinaryPropertyList)
+{
+    const QByteArray binary = QByteArray::fromHex("62706c6973743030d1010251615162080b0d"
+                                                  "0000000000000101000000000000000300000000000000"
+                                                  "00000000000000000f");
+    EXPECT_TRUE(printed(run({u"import"_s, domainName, u"-"_s}, binary), QString()));
+    EXPECT_EQ(savedDomain(domainName), (QVariantMap{{u"a"_s, u"b"_s}}));
+}
+
+TEST_F(DefaultsProgram, ImportRefusesWhatIsNoDomainAndKeepsTheOld)
+{
+    set({{u"a"_s, 1}});
+    EXPECT_TRUE(failed(run({u"import"_s, domainName, u"-"_s}, "damaged"), failure, u"line 1, column 1"_s));
+    EXPECT_TRUE(failed(run({u"import"_s, domainName, u"-"_s}, "<plist><array/></plist>"), failure, u"dictionary"_s));
+    const QString missing = parentFolder() + u"/missing"_s;
+    EXPECT_TRUE(failed(run({u"import"_s, domainName, missing}), failure, missing));
+    EXPECT_TRUE(failed(run({u"import"_s, domainName, folder()}), failure, folder()));
+    EXPECT_EQ(savedDomain(domainName), (QVariantMap{{u"a"_s, 1}}));
+}
+
+TEST_F(DefaultsProgram, ExportReportsAFileThatCannotBeWritten)
+{
+    set({{u"a"_s, 1}});
+    const QString missing = parentFolder() + u"/missing/file"_s;
+    EXPECT_TRUE(failed(run({u"export"_s, domainName, missing}), failure, missing));
+}
+
+TEST_F(DefaultsProgram, ReportsADamagedDomainAndWhereItIsKept)
+{
+    support::writeFile(path(domainName), "damaged");
+    EXPECT_TRUE(printed(run({u"domains"_s}), domainName + u'\n'));
+    EXPECT_TRUE(failed(run({u"read"_s, domainName}), failure, u"line 1, column 1"_s));
+    EXPECT_TRUE(failed(run({u"read"_s, domainName, u"a"_s}), failure, path(domainName)));
+    EXPECT_TRUE(failed(run({u"export"_s, domainName}), failure, path(domainName)));
+    EXPECT_TRUE(failed(run({u"delete"_s, domainName, u"a"_s}), failure, path(domainName)));
+    EXPECT_EQ(support::fileContent(path(domainName)), "damaged");
+
+    const QString kept = path(domainName) + u".unreadable-1"_s;
+    EXPECT_TRUE(failed(run({u"write"_s, domainName, u"a"_s, u"b"_s}), 0, kept));
+    EXPECT_EQ(support::fileContent(kept), "damaged");
+    EXPECT_TRUE(printed(run({u"read"_s, domainName, u"a"_s}), u"b\n"_s));
+    support::writeFile(path(domainName), "damaged again");
+    EXPECT_TRUE(failed(run({u"delete"_s, domainName}), 0, path(domainName) + u".unreadable-2"_s));
+    EXPECT_TRUE(failed(run({u"read"_s, domainName}), notSet, u"no domain"_s));
+}
+
+TEST_F(DefaultsProgram, RefusesNamesThatAreNoDomains)
+{
+    for (const QString &name : {u"../x"_s, u"a/b"_s, u".hidden"_s}) {
+        EXPECT_TRUE(failed(run({u"read"_s, name}), failure, u"cannot name a settings domain"_s));
+        EXPECT_TRUE(failed(run({u"write"_s, name, u"a"_s, u"b"_s}), failure, u"cannot name a settings domain"_s));
+        EXPECT_TRUE(failed(run({u"delete"_s, name}), failure, u"cannot name a settings domain"_s));
+    }
+    EXPECT_EQ(support::filesBelow(parentFolder()), (QMap<QString, QByteArray>()));
+}
+
+TEST_F(DefaultsProgram, ExplainsAWrongCommandLine)
+{
+    const auto isRefused = [this](const QStringList &arguments, const QString &report) {
+        const Result result = run(arguments);
+        return failed(result, wrongCommandLine, report) && support::contains(result.errors, u"--help"_s);
+    };
+    EXPECT_TRUE(isRefused({}, u"command"_s));
+    EXPECT_TRUE(isRefused({u"change"_s}, u"'change'"_s));
+    EXPECT_TRUE(isRefused({u"read"_s}, u"'read'"_s));
+    EXPECT_TRUE(isRefused({u"write"_s, u""_s, u"a"_s, u"b"_s}, u"DOMAIN"_s));
+    EXPECT_TRUE(isRefused({u"read"_s, u"a"_s, u"b"_s, u"c"_s}, u"'c'"_s));
+    EXPECT_TRUE(isRefused({u"read"_s, u"-g"_s, u"b"_s, u"c"_s}, u"'c'"_s));
+    EXPECT_TRUE(isRefused({u"read"_s, u"a"_s, u"--type"_s, u"int"_s}, u"'read'"_s));
+    EXPECT_TRUE(isRefused({u"write"_s, u"a"_s, u"b"_s}, u"'write'"_s));
+    EXPECT_TRUE(isRefused({u"write"_s, u"a"_s, u"b"_s, u"-5"_s}, u"'--'"_s));
+    EXPECT_TRUE(isRefused({u"import"_s, u"a"_s}, u"'import'"_s));
+    EXPECT_TRUE(isRefused({u"domains"_s, u"a"_s}, u"'a'"_s));
+    EXPECT_TRUE(isRefused({u"domains"_s, u"-g"_s}, u"'domains'"_s));
+}
+
+TEST_F(DefaultsProgram, UsesTheConfigurationFolderOfTheUserWithoutAnotherFolder)
+{
+    environment.remove(u"ORVANE_DEFAULTS_FOLDER"_s);
+    environment.insert(u"XDG_CONFIG_HOME"_s, folder());
+    EXPECT_TRUE(printed(run({u"write"_s, domainName, u"a"_s, u"b"_s}), QString()));
+    EXPECT_EQ(support::filesBelow(folder()).keys(), QStringList{u"orvane-export-kit/com.example.plain-text.plist"_s});
+}
+
+TEST_F(DefaultsProgram, ResultsThatNobodyTakesAreAnError)
+{
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setStandardOutputFile(u"/dev/full"_s);
+    process.start(QStringLiteral(DEFAULTS_PROGRAM), {u"--help"_s});
+    EXPECT_TRUE(failed(finished(process), failure, u"No space left on device"_s));
+}
+
+TEST_F(DefaultsProgram, AFullDiskLeavesTheOldSettingsAndIsReported)
+{
+    set({{u"text"_s, u"old"_s}});
+    const auto oldFiles = support::filesBelow(folder());
+    const QString newText(20000, u'x');
+    environment.insert(u"LD_PRELOAD"_s, QStringLiteral(FULL_DISK_LIBRARY));
+    environment.insert(u"ASAN_OPTIONS"_s, u"verify_asan_link_order=0"_s);
+    environment.insert(u"ORVANE_FULL_DISK_FOLDER"_s, folder());
+    const auto runWithRoom = [&](int bytes) {
+        environment.insert(u"ORVANE_FULL_DISK_AFTER"_s, QString::number(bytes));
+        return run({u"write"_s, domainName, u"text"_s, newText});
+    };
+    for (const int room : {0, 10, 120, 300, 4096, 16384, 20000}) {
+        EXPECT_TRUE(failed(runWithRoom(room), failure, path(domainName))) << room;
+        EXPECT_EQ(support::filesBelow(folder()), oldFiles) << room;
+    }
+    EXPECT_TRUE(support::contains(runWithRoom(0).errors, u"make room on the disk"_s));
+    EXPECT_TRUE(printed(runWithRoom(21000), QString()));
+    EXPECT_EQ(savedDomain(domainName), (QVariantMap{{u"text"_s, newText}}));
+}
+
+} // namespace

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+/// \file
+/// Files and the standard streams. Results go to standard output, messages to standard error. All functions throw a
+/// `ProgramError` where reading or writing fails.
+
+namespace defaults {
+
+/// All of the file; of standard input when it is named "-".
+QByteArray readFile(const QString &name);
+
+/// Replaces the file as a whole; writes to standard output when it is named "-".
+void writeFile(const QString &name, const QByteArray &data);
+
+/// Writes to standard output. When this returns, the text has left the program.
+void printResult(const QByteArray &text);
+
+/// Writes a line to standard error, behind the name of the program.
+void printMessage(const QString &message);
+
+} // namespace defaults
