@@ -4,6 +4,7 @@
 /// Everything that a plug-in needs, in one include.
 
 #include <OrvaneExportKit/platform/AttributedString.h>
+#include <OrvaneExportKit/platform/Bundle.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/platform/LineRanges.h>
 #include <OrvaneExportKit/platform/OpenPanel.h>
@@ -11,6 +12,7 @@
 #include <OrvaneExportKit/platform/PropertyList.h>
 #include <OrvaneExportKit/platform/Range.h>
 #include <OrvaneExportKit/platform/TextEdits.h>
+#include <OrvaneExportKit/platform/Translations.h>
 #include <OrvaneExportKit/platform/UserDefaults.h>
 #include <OrvaneExportKit/run/ExportDocument.h>
 #include <OrvaneExportKit/run/ExportPlugin.h>
@@ -19,6 +21,7 @@
 #include <OrvaneExportKit/text/EscapeSequences.h>
 #include <OrvaneExportKit/text/LineLayout.h>
 #include <OrvaneExportKit/text/QuotationMarks.h>
+#include <OrvaneExportKit/text/QuotationTable.h>
 #include <OrvaneExportKit/text/RangeLists.h>
 #include <OrvaneExportKit/text/TaggedSpans.h>
 #include <OrvaneExportKit/text/Typography.h>

@@ -23,6 +23,8 @@ RangeException::~RangeException() = default;
 
 InvalidArgumentException::~InvalidArgumentException() = default;
 
+UnrecognisedOperationException::~UnrecognisedOperationException() = default;
+
 void requireRange(const char *operation, Range range, std::size_t textLength)
 {
     if (!range.fits(textLength)) {

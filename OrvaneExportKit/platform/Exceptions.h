@@ -46,6 +46,14 @@ public:
     ~InvalidArgumentException() override;
 };
 
+/// A value was asked for something that its kind does not answer, such as an array for its number.
+class ORVANE_CORE_EXPORT UnrecognisedOperationException : public Exception
+{
+public:
+    using Exception::Exception;
+    ~UnrecognisedOperationException() override;
+};
+
 /// Throws a `RangeException` unless `range` lies inside a text of `textLength` units.
 ORVANE_CORE_EXPORT void requireRange(const char *operation, Range range, std::size_t textLength);
 

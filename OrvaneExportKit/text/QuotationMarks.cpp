@@ -1,6 +1,8 @@
 #include <OrvaneExportKit/text/QuotationMarks.h>
 
+#include <OrvaneExportKit/platform/Bundle.h>
 #include <OrvaneExportKit/platform/TextUnits.h>
+#include <OrvaneExportKit/text/QuotationTable.h>
 
 #include <array>
 
@@ -75,6 +77,16 @@ void convertToStyle(Text &text, qint32 style)
     }
 }
 
+template <typename Text>
+void convertToLanguage(Text &text, const QString &language)
+{
+    const platform::QuotationMarks marks = platform::quotationMarks(platform::Bundle::kitBundle(), language);
+    const QString straight(straightMark);
+    const QString start = marks.begin.value_or(straight);
+    const QString stop = marks.end.value_or(straight);
+    applyEdits(text, findQuotationMarks(units(text), {units(start), units(stop)}));
+}
+
 } // namespace
 
 namespace KZMutableStringExportAdditions {
@@ -92,6 +104,11 @@ void convertQuotationsToType(QString &text, qint32 style)
     convertToStyle(text, style);
 }
 
+void convertQuotationsToLanguage(QString &text, const QString &language)
+{
+    convertToLanguage(text, language);
+}
+
 } // namespace KZMutableStringExportAdditions
 
 namespace KZMutableAttributedStringExportAdditions {
@@ -99,6 +116,11 @@ namespace KZMutableAttributedStringExportAdditions {
 void convertQuotationsToType(AttributedString &text, qint32 style)
 {
     convertToStyle(text, style);
+}
+
+void convertQuotationsToLanguage(AttributedString &text, const QString &language)
+{
+    convertToLanguage(text, language);
 }
 
 } // namespace KZMutableAttributedStringExportAdditions

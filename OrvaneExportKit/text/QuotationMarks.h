@@ -37,11 +37,22 @@ ORVANE_CORE_EXPORT void convertQuotationsToStart(QString &text, QStringView star
 ///     convertQuotationsToType(text, 0);   // "„Ja“"
 ORVANE_CORE_EXPORT void convertQuotationsToType(QString &text, qint32 style);
 
+/// Replaces every straight mark by those that the kit's quotation table (text/QuotationTable.h) holds for a language.
+///
+/// Where the table lacks one of the two marks, that side stays straight; for a language that it does not hold, the text
+/// stays as it is. The table is read anew by every call. Where it is malformed for this language, throws what
+/// `platform::quotationMarks` throws, before anything is changed.
+///
+///     QString text = u"\"Oui\""_s;
+///     convertQuotationsToLanguage(text, u"fr"_s);   // "«Oui»"
+ORVANE_CORE_EXPORT void convertQuotationsToLanguage(QString &text, const QString &language);
+
 } // namespace KZMutableStringExportAdditions
 
 namespace KZMutableAttributedStringExportAdditions {
 
 /// The same as on plain text; each mark takes the attributes of the straight mark that it replaces.
 ORVANE_CORE_EXPORT void convertQuotationsToType(platform::AttributedString &text, qint32 style);
+ORVANE_CORE_EXPORT void convertQuotationsToLanguage(platform::AttributedString &text, const QString &language);
 
 } // namespace KZMutableAttributedStringExportAdditions

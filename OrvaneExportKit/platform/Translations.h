@@ -1,0 +1,19 @@
+#pragma once
+
+#include <OrvaneExportKit/ExportMacros.h>
+
+#include <QtCore/QLocale>
+
+namespace platform {
+
+/// Switches the kit's own texts to the language of `locale`: the first of its `uiLanguages()` that the kit is
+/// translated into, in the form for the country where there is one, else American English.
+///
+/// Every application object starts with the language of `QLocale()`; a host calls this when the user picks another one
+/// while it runs. The application then gets a `QEvent::LanguageChange`. The kit's translator keeps its place among the
+/// installed ones: a translator that a host installs after it goes first, and so can replace any of the texts.
+///
+///     platform::setLanguage(QLocale(u"de_AT"_s));   // the German texts
+ORVANE_CORE_EXPORT void setLanguage(const QLocale &locale);
+
+} // namespace platform

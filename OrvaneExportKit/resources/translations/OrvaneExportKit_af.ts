@@ -1,0 +1,58 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="af" sourcelanguage="en_US">
+<context>
+    <name>FileNameChecks</name>
+    <message>
+        <source>The name is empty.</source>
+        <translation>Die naam is leeg.</translation>
+    </message>
+    <message>
+        <source>The name holds a control character.</source>
+        <translation>Die naam bevat ’n beheerkarakter.</translation>
+    </message>
+    <message>
+        <source>The name holds the character %1, which Windows reserves.</source>
+        <extracomment>%1 is one character.</extracomment>
+        <translation>Die naam bevat die karakter %1, wat deur Windows gereserveer word.</translation>
+    </message>
+    <message>
+        <source>The name stands for a device on Windows.</source>
+        <translation>Die naam verwys na ’n toestel in Windows.</translation>
+    </message>
+    <message>
+        <source>The name ends with a dot or a blank.</source>
+        <translation>Die naam eindig met ’n punt of ’n spasie.</translation>
+    </message>
+    <message>
+        <source>The name is longer than 255 bytes.</source>
+        <translation>Die naam is langer as 255 grepe.</translation>
+    </message>
+    <message>
+        <source>%1 documents would get this name.</source>
+        <extracomment>%1 is a number, 2 or more.</extracomment>
+        <translation>%1 dokumente sou hierdie naam kry.</translation>
+    </message>
+    <message>
+        <source>A folder with this name exists.</source>
+        <translation>Daar is reeds ’n vouer met hierdie naam.</translation>
+    </message>
+    <message>
+        <source>A file with this name exists.</source>
+        <translation>Daar is reeds ’n lêer met hierdie naam.</translation>
+    </message>
+</context>
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Level</source>
+        <extracomment>Stands before the number of an outline level, as in &quot;Level 2 (##)&quot;.</extracomment>
+        <translation>Vlak</translation>
+    </message>
+    <message>
+        <source>ProcDoc</source>
+        <extracomment>&quot;Processing document&quot;: stands in the progress sheet before a colon and the document&apos;s name.</extracomment>
+        <translation>Verwerk tans dokument</translation>
+    </message>
+</context>
+</TS>

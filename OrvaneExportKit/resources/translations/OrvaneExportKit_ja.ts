@@ -1,0 +1,58 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en_US">
+<context>
+    <name>FileNameChecks</name>
+    <message>
+        <source>The name is empty.</source>
+        <translation>名前が空です。</translation>
+    </message>
+    <message>
+        <source>The name holds a control character.</source>
+        <translation>名前に制御文字が含まれています。</translation>
+    </message>
+    <message>
+        <source>The name holds the character %1, which Windows reserves.</source>
+        <extracomment>%1 is one character.</extracomment>
+        <translation>名前に、Windowsで予約されている文字「%1」が含まれています。</translation>
+    </message>
+    <message>
+        <source>The name stands for a device on Windows.</source>
+        <translation>この名前はWindowsではデバイス名です。</translation>
+    </message>
+    <message>
+        <source>The name ends with a dot or a blank.</source>
+        <translation>名前の末尾がピリオドまたは空白です。</translation>
+    </message>
+    <message>
+        <source>The name is longer than 255 bytes.</source>
+        <translation>名前が255バイトを超えています。</translation>
+    </message>
+    <message>
+        <source>%1 documents would get this name.</source>
+        <extracomment>%1 is a number, 2 or more.</extracomment>
+        <translation>%1件の文書がこの名前になります。</translation>
+    </message>
+    <message>
+        <source>A folder with this name exists.</source>
+        <translation>同じ名前のフォルダーがすでに存在します。</translation>
+    </message>
+    <message>
+        <source>A file with this name exists.</source>
+        <translation>同じ名前のファイルがすでに存在します。</translation>
+    </message>
+</context>
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Level</source>
+        <extracomment>Stands before the number of an outline level, as in &quot;Level 2 (##)&quot;.</extracomment>
+        <translation>レベル</translation>
+    </message>
+    <message>
+        <source>ProcDoc</source>
+        <extracomment>&quot;Processing document&quot;: stands in the progress sheet before a colon and the document&apos;s name.</extracomment>
+        <translation>文書を処理中</translation>
+    </message>
+</context>
+</TS>
