@@ -1,0 +1,35 @@
+#pragma once
+
+#include <OrvaneExportKit/ExportMacros.h>
+
+#include <QtCore/QString>
+
+namespace platform {
+
+/// How an error that the kit cannot hand back as a result reaches the user.
+///
+/// The library with the windows shows a modal alert. A test, a command-line program or an author sets an object of its
+/// own to receive the errors as values; without any, nothing is shown and `lastError` still names the last one.
+class ORVANE_CORE_EXPORT ErrorAlert
+{
+public:
+    ErrorAlert() = default;
+    ErrorAlert(const ErrorAlert &) = delete;
+    ErrorAlert &operator=(const ErrorAlert &) = delete;
+    virtual ~ErrorAlert();
+
+    /// Shows the error, one sentence, and returns when the user has taken note of it.
+    virtual void runModal(const QString &errorDescription) = 0;
+};
+
+/// Sets the alert that errors are shown through; null for none. The caller keeps ownership and unsets it before
+/// destroying it. Returns the alert set before.
+ORVANE_CORE_EXPORT ErrorAlert *setErrorAlert(ErrorAlert *alert);
+
+/// Keeps the error as the last one and shows it through the alert, if one is set.
+ORVANE_CORE_EXPORT void alertError(const QString &errorDescription);
+
+/// What the last error said; empty before the first one.
+ORVANE_CORE_EXPORT QString lastError();
+
+} // namespace platform

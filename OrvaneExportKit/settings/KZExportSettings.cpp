@@ -1,0 +1,229 @@
+#include <OrvaneExportKit/settings/KZExportSettings.h>
+
+#include <OrvaneExportKit/controls/ValueTransformers.h>
+#include <OrvaneExportKit/platform/Archiver.h>
+#include <OrvaneExportKit/platform/Bundle.h>
+#include <OrvaneExportKit/platform/ErrorAlert.h>
+#include <OrvaneExportKit/platform/PropertyList.h>
+#include <OrvaneExportKit/platform/ScalarValues.h>
+#include <OrvaneExportKit/platform/UserDefaults.h>
+#include <OrvaneExportKit/platform/ValueTransformer.h>
+#include <OrvaneExportKit/settings/MeasurementUnits.h>
+#include <OrvaneExportKit/text/QuotationTable.h>
+
+#include <array>
+#include <optional>
+
+using platform::PropertyList;
+
+namespace {
+
+constexpr std::array<const char16_t *, 6> languagesOfStyles{u"de", u"de_CH", u"fr", u"en_US", u"en_UK", u"sv"};
+
+void registerTransformers(float measurementUnitFactor)
+{
+    using platform::setValueTransformer;
+    setValueTransformer(std::make_shared<KZMeasurementUnitTransformer>(measurementUnitFactor),
+                        QStringLiteral("KZMeasurementUnitTransformer"));
+    setValueTransformer(std::make_shared<KZLineHeightMultipleTransformer>(),
+                        QStringLiteral("KZLineHeightMultipleTransformer"));
+    setValueTransformer(std::make_shared<KZEmptyStringTransformer>(), QStringLiteral("KZEmptyStringTransformer"));
+    setValueTransformer(std::make_shared<KZLocaleTransformer>(), QStringLiteral("KZLocaleTransformer"));
+}
+
+/// The dictionary that a property list holds; empty, after an alert, when it holds none.
+QVariantMap dictionaryFromData(const QByteArray &data)
+{
+    const PropertyList::ReadResult read = PropertyList::read(data);
+    if (!read.value) {
+        platform::alertError(read.error);
+        return {};
+    }
+    if (read.value->metaType() != QMetaType::fromType<QVariantMap>()) {
+        platform::alertError(QStringLiteral("The root of the property list is not a dictionary."));
+        return {};
+    }
+    return read.value->toMap();
+}
+
+/// The XML property list of a dictionary, or nothing after an alert.
+std::optional<QByteArray> dataFromDictionary(const QVariantMap &dictionary)
+{
+    PropertyList::WriteResult written = PropertyList::write(dictionary, PropertyList::Format::Xml);
+    if (!written.data) {
+        platform::alertError(written.error);
+    }
+    return std::move(written.data);
+}
+
+void requireValue(const char *operation, const QVariant &value, const QString &key)
+{
+    if (value.isNull()) {
+        throw platform::InvalidArgumentException(
+            std::string(operation) + ": nothing cannot be stored under the key \"" + key.toStdString() + '"');
+    }
+}
+
+} // namespace
+
+KZExportSettings::KZExportSettings(const QString &bundleIdentifier, QObject *parent)
+    : QObject(parent), m_bundleIdentifier(bundleIdentifier)
+{
+    registerTransformers(measurementUnitFactor());
+}
+
+KZExportSettings::~KZExportSettings() = default;
+
+std::unique_ptr<KZExportSettings> KZExportSettings::initWithBundleIdentifier(const QString &bundleIdentifier)
+{
+    return std::make_unique<KZExportSettings>(bundleIdentifier);
+}
+
+float KZExportSettings::measurementUnitFactor()
+{
+    return platform::measurementUnitFactor();
+}
+
+QStringList KZExportSettings::quotationStrings(const QMetaObject &receiver)
+{
+    return platform::quotationSamples(platform::Bundle::bundleForClass(receiver));
+}
+
+bool KZExportSettings::readSettingsFromDefaults()
+{
+    const auto domain = platform::UserDefaults::standardUserDefaults().persistentDomainForName(m_bundleIdentifier);
+    if (domain) {
+        setDefaultDictionary(*domain);
+    }
+    return domain.has_value();
+}
+
+void KZExportSettings::writeSettingsToDefaults() const
+{
+    platform::UserDefaults::standardUserDefaults().setPersistentDomain(m_settingsDict, m_bundleIdentifier);
+}
+
+QByteArray KZExportSettings::defaultData() const
+{
+    return dataFromDictionary(m_settingsDict).value_or(QByteArray());
+}
+
+void KZExportSettings::setDefaultData(const QByteArray &data)
+{
+    m_settingsDict = dictionaryFromData(data);
+}
+
+QVariantMap KZExportSettings::defaultDictionary() const
+{
+    return m_settingsDict;
+}
+
+void KZExportSettings::setDefaultDictionary(const QVariantMap &dictionary)
+{
+    if (const auto data = dataFromDictionary(dictionary)) {
+        m_settingsDict = dictionaryFromData(*data);
+    }
+}
+
+QVariant KZExportSettings::valueForKey(const QString &key) const
+{
+    return m_settingsDict.value(key);
+}
+
+QVariant KZExportSettings::objectForKey(const QString &key) const
+{
+    return m_settingsDict.value(key);
+}
+
+QVariant KZExportSettings::nonPropertyListObjectForKey(const QString &key) const
+{
+    return platform::Unarchiver::unarchiveObjectWithData(m_settingsDict.value(key).toByteArray());
+}
+
+float KZExportSettings::floatForKey(const QString &key) const
+{
+    return platform::floatValue(objectForKey(key));
+}
+
+quint32 KZExportSettings::unsignedIntegerForKey(const QString &key) const
+{
+    return platform::unsignedIntValue(objectForKey(key));
+}
+
+qint32 KZExportSettings::integerForKey(const QString &key) const
+{
+    return platform::intValue(objectForKey(key));
+}
+
+quint8 KZExportSettings::unsignedCharForKey(const QString &key) const
+{
+    return platform::unsignedCharValue(objectForKey(key));
+}
+
+qint8 KZExportSettings::charForKey(const QString &key) const
+{
+    return platform::charValue(objectForKey(key));
+}
+
+bool KZExportSettings::boolForKey(const QString &key) const
+{
+    return platform::boolValue(objectForKey(key));
+}
+
+void KZExportSettings::setValue(const QVariant &value, const QString &key)
+{
+    Q_EMIT willChangeValueForKey(key);
+    requireValue("setValue", value, key);
+    m_settingsDict.insert(key, value);
+    Q_EMIT didChangeValueForKey(key);
+}
+
+void KZExportSettings::setObject(const QVariant &value, const QString &key)
+{
+    requireValue("setObject", value, key);
+    m_settingsDict.insert(key, value);
+}
+
+void KZExportSettings::setNonPropertyListObject(const QVariant &value, const QString &key)
+{
+    requireValue("setNonPropertyListObject", value, key);
+    m_settingsDict.insert(key, platform::Archiver::archivedDataWithRootObject(value));
+}
+
+void KZExportSettings::setFloat(float value, const QString &key)
+{
+    m_settingsDict.insert(key, value);
+}
+
+void KZExportSettings::setUnsignedInteger(quint32 value, const QString &key)
+{
+    m_settingsDict.insert(key, value);
+}
+
+void KZExportSettings::setInteger(qint32 value, const QString &key)
+{
+    m_settingsDict.insert(key, value);
+}
+
+void KZExportSettings::setUnsignedChar(quint8 value, const QString &key)
+{
+    m_settingsDict.insert(key, QVariant::fromValue(value));
+}
+
+void KZExportSettings::setChar(qint8 value, const QString &key)
+{
+    m_settingsDict.insert(key, QVariant::fromValue(value));
+}
+
+void KZExportSettings::setBool(bool value, const QString &key)
+{
+    m_settingsDict.insert(key, value);
+}
+
+void KZExportSettings::updateQuotationSettingForKey(const QString &key)
+{
+    const auto style = static_cast<quint32>(integerForKey(key));
+    if (style < languagesOfStyles.size()) {
+        m_settingsDict.insert(key, QString::fromUtf16(languagesOfStyles[style]));
+    }
+}

@@ -1,0 +1,121 @@
+#pragma once
+
+#include <OrvaneExportKit/ExportMacros.h>
+#include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/settings/SettingsKeys.h>
+
+#include <QtCore/QByteArray>
+#include <QtCore/QObject>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QVariant>
+
+#include <memory>
+
+/// The settings of one export plug-in: a dictionary of property-list values, kept in the user's defaults under the
+/// plug-in's bundle identifier.
+///
+/// A settings object is empty when it is created. The plug-in fills it, changes it and saves it when it wants to:
+///
+///     KZExportSettings settings(u"com.example.plain-text"_s);
+///     settings.readSettingsFromDefaults();
+///     settings.setInteger(72, u"lineLength"_s);
+///     settings.writeSettingsToDefaults();
+///
+/// Keys that a version of the plug-in does not know stay through every load and save. Where a conversion to or from a
+/// property list fails, the error goes to `platform::alertError`, and what survives is said at each operation.
+/// For use on the application's main thread.
+class ORVANE_CORE_EXPORT KZExportSettings : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("BundleIdentifier", "org.orvane.ExportKit")
+
+public:
+    /// Creates an empty settings object and registers four new value transformers ("KZMeasurementUnitTransformer" with
+    /// the user's measurement unit of this moment, "KZLineHeightMultipleTransformer", "KZEmptyStringTransformer",
+    /// "KZLocaleTransformer") in the place of those that were registered under these names.
+    explicit KZExportSettings(const QString &bundleIdentifier, QObject *parent = nullptr);
+    ~KZExportSettings() override;
+
+    /// The same, owned by the caller.
+    static std::unique_ptr<KZExportSettings> initWithBundleIdentifier(const QString &bundleIdentifier);
+
+    /// The user's measurement units per point: 1/72 for inches, 2.54/72 for centimetres.
+    static float measurementUnitFactor();
+
+    /// Nine samples of quotation marks around "abc", in the order of the languages of "KZLocaleTransformer", from the
+    /// table "Quotes" of the bundle of `receiver`. A language or mark that the table lacks reads "(null)".
+    /// Throws `platform::RangeException` for a language whose value is an empty array, and
+    /// `platform::UnrecognisedOperationException` for one whose value is no array.
+    static QStringList quotationStrings(const QMetaObject &receiver = staticMetaObject);
+
+    /// Replaces the settings by the saved ones. Answers false, and changes nothing, when none are saved.
+    bool readSettingsFromDefaults();
+
+    /// Saves the settings; they are on disk when the call returns. `platform::UserDefaults` says when that failed, and
+    /// tries again when it is asked to synchronise.
+    void writeSettingsToDefaults() const;
+
+    /// The settings as an XML property list. Null, after an alert, when they hold a value that is not a property-list
+    /// value.
+    QByteArray defaultData() const;
+
+    /// Replaces the settings by those of a property list of either format. When the data is not a property list with a
+    /// dictionary as its root, the settings end up empty, and the error is shown.
+    void setDefaultData(const QByteArray &data);
+
+    /// A copy of the settings.
+    QVariantMap defaultDictionary() const;
+
+    /// Replaces the settings by a dictionary, passed through an XML property list. When it holds a value that is not a
+    /// property-list value, the settings stay as they are, and the error is shown.
+    void setDefaultDictionary(const QVariantMap &dictionary);
+
+    /// The value stored under a key, whatever the key's name; an invalid `QVariant` when there is none.
+    QVariant valueForKey(const QString &key) const;
+    QVariant objectForKey(const QString &key) const; ///< the same
+
+    /// The value that `setNonPropertyListObject` stored. An invalid `QVariant` when the key is missing or holds
+    /// something else than an archive.
+    QVariant nonPropertyListObjectForKey(const QString &key) const;
+
+    // The scalar readers convert what is stored as `platform::floatValue` and its neighbours do: numbers as a C cast,
+    // strings by their leading decimal text, a missing key to zero. They throw
+    // `platform::UnrecognisedOperationException` for arrays, dictionaries, data and dates.
+    float floatForKey(const QString &key) const;
+    quint32 unsignedIntegerForKey(const QString &key) const;
+    qint32 integerForKey(const QString &key) const;
+    quint8 unsignedCharForKey(const QString &key) const;
+    qint8 charForKey(const QString &key) const;
+    bool boolForKey(const QString &key) const;
+
+    /// Stores a value and tells observers: `willChangeValueForKey` goes out before, `didChangeValueForKey` after.
+    /// No other writer tells anybody. Throws `platform::InvalidArgumentException` for an invalid or null value (the
+    /// first of the two signals has gone out by then), as do the other two writers of objects.
+    void setValue(const QVariant &value, const QString &key);
+    void setObject(const QVariant &value, const QString &key); ///< stores a value silently
+
+    /// Stores the archive of a value that is not a property-list value, such as a font. Throws
+    /// `platform::InvalidArgumentException` also for a value that `platform::Archiver` cannot archive.
+    void setNonPropertyListObject(const QVariant &value, const QString &key);
+
+    // The scalar writers store the number with exactly this type.
+    void setFloat(float value, const QString &key);
+    void setUnsignedInteger(quint32 value, const QString &key);
+    void setInteger(qint32 value, const QString &key);
+    void setUnsignedChar(quint8 value, const QString &key);
+    void setChar(qint8 value, const QString &key);
+    void setBool(bool value, const QString &key);
+
+    /// Turns a quotation style number, 0 to 5, stored under the key into the language code with the same marks; any
+    /// other number stays. A missing key and a string read as 0, so call it only while the value is a number.
+    void updateQuotationSettingForKey(const QString &key);
+
+Q_SIGNALS:
+    void willChangeValueForKey(const QString &key); ///< a value is about to be stored by `setValue`
+    void didChangeValueForKey(const QString &key);  ///< it has been stored
+
+private:
+    QString m_bundleIdentifier;
+    QVariantMap m_settingsDict;
+};
