@@ -22,7 +22,7 @@ export_manuscript() {
 
 echo
 export_manuscript the-lamplighters-ledger
-export_manuscript die-gezeitenuhr --convert-spaces --set quotation-style=0 --set line-length=66
+export_manuscript die-gezeitenuhr --convert-spaces --quotation-language de --set line-length=66
 
 first=$(find "$output/the-lamplighters-ledger" -name '001*')
 printf '\nThe first lines of "%s":\n\n' "$(basename "$first")"

@@ -4,6 +4,7 @@
 #include <OrvaneExportKit/platform/AttributedString.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/run/ExportDocument.h>
+#include <OrvaneExportKit/settings/KZExportSettings.h>
 
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
@@ -12,8 +13,9 @@
 
 /// An export format, loaded by a host as a Qt plug-in.
 ///
-/// A plug-in is a shared library with one `QObject` that implements this interface. A host creates it, sets choices,
-/// and then asks for the exported data document by document, all on the main thread. The host writes the files.
+/// A plug-in is a shared library with one `QObject` that implements this interface. A host creates it, loads its saved
+/// settings, sets choices, and then asks for the exported data document by document, all on the main thread. The host
+/// writes the files, and saves the settings when the user wants to keep them.
 ///
 ///     class PlainTextPlugin : public QObject, public ExportPlugin
 ///     {
@@ -49,13 +51,17 @@ public:
     /// All choices, in the order in which a host shows them.
     virtual QList<Choice> choices() const = 0;
 
-    /// Sets one choice from its text form for all documents to come.
+    /// The settings in which the choices are kept, each as text under its key; a key that is missing has its default.
+    /// They belong to the plug-in.
+    virtual KZExportSettings &settings() = 0;
+
+    /// Sets one choice in the settings, from its text form, for all documents to come.
     /// Throws `platform::InvalidArgumentException`, saying which values are allowed, and changes nothing when the key
     /// is unknown or the value is not one that the choice takes.
     virtual void setChoice(const QString &key, const QString &value) = 0;
 
-    /// The content of the file that one document becomes. May throw; the host then reports the document and what the
-    /// exception says.
+    /// The content of the file that one document becomes, with the choices that the settings hold. May throw; the host
+    /// then reports the document and what the exception says.
     virtual QByteArray exportedData(const ExportDocument &document, const platform::AttributedString &text) const = 0;
 };
 

@@ -31,9 +31,17 @@ Tokens of the file name pattern:
   <5>  the name of DESTINATION without extension; empty for a folder
 A "/" becomes ":", so that no name opens a folder.
 
+Choices:
+  They come from the plug-in's saved settings, or from --settings; --set has the
+  last word. Nothing of it is kept without --save-settings. orvane-defaults
+  shows and repairs what is saved.
+
 Environment:
   ORVANE_PLUGIN_PATH  the plug-in folder when --plugin-folder is not given;
                       without both, the one that came with the program
+  ORVANE_DEFAULTS_FOLDER
+                      where settings are saved; without it, the folder
+                      orvane-export-kit in the user's configuration folder
 
 Output:
   Standard output lists the files that were written, one a line. Standard error
@@ -44,9 +52,9 @@ Output:
 Exit codes:
     0  all documents were exported
     1  the command line is wrong, or the plug-in refuses a choice
-    2  the manuscript or one of its documents can't be read
+    2  the manuscript, one of its documents or the settings can't be read
     3  the plug-in can't be loaded, or failed
-    4  the files can't be written, or not under these names
+    4  the files or the settings can't be written, or not under these names
     5  files exist and were not to be replaced
   130  the export was interrupted
 
@@ -55,8 +63,11 @@ Example:
       --pattern '<1> <2>' --set line-length=66
 )";
 
-HostError usageError(const QString &message)
+HostError usageError(QString message)
 {
+    if (message.endsWith(u'.')) {
+        message.chop(1);
+    }
     return {ExitCode::Usage, message + u"; --help explains all options"_s};
 }
 
@@ -77,7 +88,10 @@ CommandLine::CommandLine(const QStringList &arguments)
          u"<1> <2>"_s},
         {u"extension"_s, u"The extension of the files in a folder. Default: the plug-in's own."_s, u"EXTENSION"_s},
         {u"convert-spaces"_s, u"Writes \"_\" in place of each space in the names."_s},
-        {u"set"_s, u"Sets a choice of the plug-in; may be given several times."_s, u"KEY=VALUE"_s},
+        {u"set"_s, u"Sets a choice of the plug-in for this run; may be given several times."_s, u"KEY=VALUE"_s},
+        {u"quotation-language"_s, u"The same as --set quotation-language=CODE."_s, u"CODE"_s},
+        {u"settings"_s, u"Takes the choices from a property list in place of the saved ones."_s, u"FILE"_s},
+        {u"save-settings"_s, u"Keeps the choices of this run for the next ones."_s},
         {u"yes"_s, u"Replaces files that exist without asking."_s},
         {u"list-plugins"_s, u"Lists the plug-ins with their choices, and exports nothing."_s},
         {u"plugin-folder"_s, u"The folder in which the plug-ins are."_s, u"FOLDER"_s},
@@ -123,6 +137,10 @@ ExportRequest CommandLine::exportRequest() const
     request.convertSpaces = m_parser.isSet(u"convert-spaces"_s);
     request.replaceFiles = m_parser.isSet(u"yes"_s);
     request.settings = settings();
+    if (m_parser.isSet(u"settings"_s)) {
+        request.settingsFile = requiredValue(u"settings"_s, u"a property list"_s);
+    }
+    request.saveSettings = m_parser.isSet(u"save-settings"_s);
     return request;
 }
 
@@ -138,8 +156,11 @@ QString CommandLine::requiredValue(const QString &option, const QString &purpose
 QString CommandLine::manuscriptFolder() const
 {
     const QStringList arguments = m_parser.positionalArguments();
-    if (arguments.isEmpty() || arguments.first() != u"export") {
+    if (arguments.isEmpty()) {
         throw usageError(u"say what to do: export MANUSCRIPT --plugin NAME --to DESTINATION"_s);
+    }
+    if (arguments.first() != u"export") {
+        throw usageError(u"there is no command %1, only export"_s.arg(quoted(arguments.first())));
     }
     if (arguments.size() != 2 || arguments.last().isEmpty()) {
         throw usageError(u"export takes one manuscript folder"_s);
@@ -171,6 +192,9 @@ QList<ExportRequest::Setting> CommandLine::settings() const
             throw usageError(u"--set takes KEY=VALUE, not %1"_s.arg(quoted(setting)));
         }
         settings.append({setting.first(separator), setting.sliced(separator + 1)});
+    }
+    if (m_parser.isSet(u"quotation-language"_s)) {
+        settings.append({u"quotation-language"_s, m_parser.value(u"quotation-language"_s)});
     }
     return settings;
 }

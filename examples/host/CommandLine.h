@@ -25,6 +25,8 @@ struct ExportRequest {
     bool convertSpaces = false;
     bool replaceFiles = false; ///< the user has agreed beforehand to replace files that exist
     QList<Setting> settings;
+    std::optional<QString> settingsFile; ///< takes the place of the saved settings
+    bool saveSettings = false;           ///< keeps the settings of this run
 };
 
 /// The command line taken apart.

@@ -4,6 +4,7 @@
 #include "ManuscriptReader.h"
 #include "Messages.h"
 #include "OutputPaths.h"
+#include "PluginSettings.h"
 #include "Terminal.h"
 
 #include <QtCore/QSaveFile>
@@ -17,24 +18,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace host {
 
 namespace {
-
-void makeSetting(ExportPlugin &plugin, const ExportRequest::Setting &setting)
-{
-    QStringList keys;
-    for (const ExportPlugin::Choice &choice : plugin.choices()) {
-        keys.append(choice.key);
-    }
-    if (!keys.contains(setting.key)) {
-        throw HostError(ExitCode::Usage, u"the plug-in %1 has no choice %2; it has: %3"_s.arg(
-                                             plugin.name(), quoted(setting.key), keys.join(", "_L1)));
-    }
-    try {
-        plugin.setChoice(setting.key, setting.value);
-    } catch (const std::exception &exception) {
-        throw HostError(ExitCode::Usage,
-                        u"--set %1: %2"_s.arg(setting.key, printable(QString::fromUtf8(exception.what()))));
-    }
-}
 
 HostError pluginFailure(const ExportPlugin &plugin, const ManuscriptDocument &document, const QString &reason)
 {
@@ -77,22 +60,22 @@ void writeFile(const QString &path, const QByteArray &content)
     }
 }
 
-void reportWritten(const QStringList &paths, qsizetype documentCount, const QString &title, const QString &destination)
+void reportWritten(const QStringList &paths, qsizetype documentCount, const QString &title, const QString &folder)
 {
     for (const QString &path : paths) {
         printResult(path + u'\n');
     }
     const QString documents = counted(documentCount, u"document"_s);
     const QString exported = paths.size() == documentCount ? documents : u"%1 of %2"_s.arg(paths.size()).arg(documents);
-    printMessage(u"Exported %1 of %2 to %3."_s.arg(exported, quoted(title), quoted(destination)));
+    printMessage(u"Exported %1 of %2 to %3."_s.arg(exported, quoted(title), quoted(folder)));
 }
 
 void writeDocuments(const Manuscript &manuscript, const ExportPlugin &plugin, const QStringList &paths,
-                    const QString &destination)
+                    const QString &folder)
 {
     qsizetype written = 0;
     const auto report =
-        qScopeGuard([&] { reportWritten(paths.first(written), paths.size(), manuscript.title, destination); });
+        qScopeGuard([&] { reportWritten(paths.first(written), paths.size(), manuscript.title, folder); });
     const InterruptionWatch interruptions;
     const ProgressLine progress;
     for (const ManuscriptDocument &document : manuscript.documents) {
@@ -110,12 +93,10 @@ void writeDocuments(const Manuscript &manuscript, const ExportPlugin &plugin, co
 void runExport(const ExportRequest &request, const PluginFolder &plugins)
 {
     ExportPlugin &plugin = plugins.pluginNamed(request.pluginName);
-    for (const ExportRequest::Setting &setting : request.settings) {
-        makeSetting(plugin, setting);
-    }
+    prepareSettings(plugin, request);
     const Manuscript manuscript = readManuscript(request.manuscriptFolder);
     const QStringList paths = outputPaths(request, manuscript, request.extension.value_or(plugin.pathExtension()));
-    writeDocuments(manuscript, plugin, paths, request.destination);
+    writeDocuments(manuscript, plugin, paths, destinationFolder(request));
 }
 
 } // namespace host

@@ -43,8 +43,7 @@ bool namesFolder(const ExportRequest &request)
 
 void requireWritableFolder(const ExportRequest &request)
 {
-    const QString folder =
-        namesFolder(request) ? request.destination : platform::deletingLastPathComponent(request.destination);
+    const QString folder = destinationFolder(request);
     const QFileInfo info(folder);
     if (!info.isDir()) {
         throw outputError(u"the destination folder %1 does not exist; make it first"_s.arg(quoted(folder)));
@@ -135,6 +134,11 @@ void confirmReplacing(const QList<platform::PathFinding> &existing)
 }
 
 } // namespace
+
+QString destinationFolder(const ExportRequest &request)
+{
+    return namesFolder(request) ? request.destination : platform::deletingLastPathComponent(request.destination);
+}
 
 QStringList outputPaths(const ExportRequest &request, const Manuscript &manuscript, const QString &extension)
 {

@@ -127,7 +127,7 @@ TEST_F(CommandLine, ExtensionReplacesThatOfThePlugin)
 TEST_F(CommandLine, TheLastOfRepeatedOptionsCounts)
 {
     EXPECT_EQ(runExport({u"--extension=a"_s, u"--extension=b"_s, u"--pattern"_s, u"<2>"_s, u"--set"_s,
-                         u"quotation-style=1"_s, u"--set"_s, u"quotation-style=none"_s})
+                         u"quotation-language=de"_s, u"--set"_s, u"quotation-language=none"_s})
                   .exitCode,
               0);
     EXPECT_EQ(filesIn(destination()), QStringList({u"One.b"_s, u"Three.b"_s, u"Two.b"_s}));
@@ -153,7 +153,7 @@ TEST_F(CommandLine, WhatIsMissingOrWrongIsNamed)
         return failedWith(1, {piece, u"--help"_s}, runInDestination(arguments));
     };
     EXPECT_TRUE(usageError(u"export MANUSCRIPT"_s, {}));
-    EXPECT_TRUE(usageError(u"export MANUSCRIPT"_s, {u"import"_s, manuscript()}));
+    EXPECT_TRUE(usageError(u"no command 'import'"_s, {u"import"_s, manuscript()}));
     EXPECT_TRUE(usageError(u"one manuscript"_s, {u"export"_s}));
     EXPECT_TRUE(usageError(u"one manuscript"_s, {u"export"_s, u""_s}));
     EXPECT_TRUE(usageError(u"one manuscript"_s, {u"export"_s, manuscript(), manuscript()}));
@@ -164,7 +164,7 @@ TEST_F(CommandLine, WhatIsMissingOrWrongIsNamed)
     EXPECT_TRUE(usageError(u"'a/b'"_s, exportArguments({u"--extension"_s, u"a/b"_s})));
     EXPECT_TRUE(usageError(u"KEY=VALUE, not 'line-length'"_s, exportArguments({u"--set"_s, u"line-length"_s})));
     EXPECT_TRUE(usageError(u"KEY=VALUE, not '=5'"_s, exportArguments({u"--set"_s, u"=5"_s})));
-    EXPECT_TRUE(usageError(u"colour"_s, exportArguments({u"--colour"_s})));
+    EXPECT_TRUE(usageError(u"'colour';"_s, exportArguments({u"--colour"_s})));
     EXPECT_TRUE(usageError(u"plugin"_s, {u"--plugin"_s}));
     EXPECT_EQ(filesIn(destination()), QStringList());
 }
@@ -173,7 +173,7 @@ TEST_F(CommandLine, UnknownChoiceNamesThoseThatThereAre)
 {
     EXPECT_TRUE(failedWith(1,
                            {u"plain-text"_s, u"'colour'"_s,
-                            u"line-length, quotation-style, inline-tags, level-strings, "
+                            u"line-length, quotation-language, inline-tags, level-strings, "
                             "paragraph-marks, tab-width, empty-lines, typography"_s},
                            runExport({u"--set"_s, u"colour=red"_s})));
     EXPECT_EQ(filesIn(destination()), QStringList());
@@ -182,13 +182,20 @@ TEST_F(CommandLine, UnknownChoiceNamesThoseThatThereAre)
 TEST_F(CommandLine, RefusedValueNamesTheAllowedOnes)
 {
     const QList<QStringList> refused = {
-        {u"line-length"_s, u"long"_s, u"a number"_s},        {u"line-length"_s, u"-1"_s, u"a number"_s},
-        {u"line-length"_s, u"4294967296"_s, u"a number"_s},  {u"quotation-style"_s, u"6"_s, u"0 to 5, or none"_s},
-        {u"quotation-style"_s, u""_s, u"0 to 5, or none"_s}, {u"inline-tags"_s, u"**"_s, u"start,stop"_s},
-        {u"inline-tags"_s, u"a,b,c"_s, u"start,stop"_s},     {u"inline-tags"_s, u"a,"_s, u"start,stop"_s},
-        {u"inline-tags"_s, u"a,b;"_s, u"start,stop"_s},      {u"level-strings"_s, u"#,,##"_s, u"commas"_s},
-        {u"paragraph-marks"_s, u",>"_s, u"commas"_s},        {u"tab-width"_s, u"65"_s, u"0 to 64, or keep"_s},
-        {u"empty-lines"_s, u"no"_s, u"keep or drop"_s},      {u"typography"_s, u"maybe"_s, u"yes or no"_s},
+        {u"line-length"_s, u"long"_s, u"a number"_s},
+        {u"line-length"_s, u"-1"_s, u"a number"_s},
+        {u"line-length"_s, u"4294967296"_s, u"a number"_s},
+        {u"quotation-language"_s, u"6"_s, u"en_US, de or fr_FR, or none"_s},
+        {u"quotation-language"_s, u""_s, u"en_US, de or fr_FR, or none"_s},
+        {u"inline-tags"_s, u"**"_s, u"start,stop"_s},
+        {u"inline-tags"_s, u"a,b,c"_s, u"start,stop"_s},
+        {u"inline-tags"_s, u"a,"_s, u"start,stop"_s},
+        {u"inline-tags"_s, u"a,b;"_s, u"start,stop"_s},
+        {u"level-strings"_s, u"#,,##"_s, u"commas"_s},
+        {u"paragraph-marks"_s, u",>"_s, u"commas"_s},
+        {u"tab-width"_s, u"65"_s, u"0 to 64, or keep"_s},
+        {u"empty-lines"_s, u"no"_s, u"keep or drop"_s},
+        {u"typography"_s, u"maybe"_s, u"yes or no"_s},
     };
     for (const QStringList &setting : refused) {
         const QString value = setting[0] + u'=' + setting[1];

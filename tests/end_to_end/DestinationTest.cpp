@@ -42,7 +42,9 @@ TEST_F(Destination, FilePathWithoutExtensionGivesFilesWithoutOne)
 TEST_F(Destination, ExistingFileStandsForItsFolder)
 {
     writeFile(exported(u"old.md"_s), "old");
-    EXPECT_EQ(runExportTo(exported(u"old.md"_s)).exitCode, 0);
+    const HostResult result = runExportTo(exported(u"old.md"_s));
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.errors, u"Exported 3 documents of 'A Test' to '%1'.\n"_s.arg(destination()));
     EXPECT_EQ(filesIn(destination()), QStringList({u"001 One.md"_s, u"002 Two.md"_s, u"003 Three.md"_s, u"old.md"_s}));
     EXPECT_EQ(fileContent(exported(u"old.md"_s)), "old");
 }

@@ -77,9 +77,10 @@ TEST_F(Fault, KilledAtAnyMomentLeavesWholeFilesOnly)
     }
     writeManuscript(documents);
 
-    std::mt19937 random(1); // NOLINT(bugprone-random-generator-seed, cert-msc*): the same moments in every run
-    std::uniform_int_distribution<int> filesBefore(0, documentCount - 10);
+    std::mt19937 random(1); // NOLINT(cert-msc51-cpp): the same moments in every run of the test
+    std::uniform_int_distribution<int> filesBefore(0, documentCount / 2);
     std::uniform_int_distribution<int> microsecondsLater(0, 3000);
+    int cutShort = 0;
     for (int run = 0; run < 15; ++run) {
         for (const QString &name : filesIn(destination())) {
             EXPECT_TRUE(QFile::remove(exported(name)));
@@ -89,13 +90,14 @@ TEST_F(Fault, KilledAtAnyMomentLeavesWholeFilesOnly)
         EXPECT_TRUE(waitForExportedFiles(destination(), filesBefore(random)));
         std::this_thread::sleep_for(std::chrono::microseconds(microsecondsLater(random)));
         process.kill();
-        EXPECT_EQ(finished(process).exitCode, -1);
+        EXPECT_TRUE(process.waitForFinished());
         const QStringList names = exportedFilesIn(destination());
-        EXPECT_LT(names.size(), documentCount);
         for (const QString &name : names) {
             EXPECT_EQ(fileContent(exported(name)), largeText(name.first(3).toInt())) << testing::PrintToString(name);
         }
+        cutShort += names.size() < documentCount ? 1 : 0;
     }
+    EXPECT_GT(cutShort, 0) << "no run was killed before its end";
 }
 
 } // namespace end_to_end

@@ -59,7 +59,7 @@ TEST_F(SampleManuscript, EnglishWithDefaults)
 TEST_F(SampleManuscript, GermanWithGermanQuotesShortLinesAndNoEmptyLines)
 {
     expectExport(u"die-gezeitenuhr"_s,
-                 {u"--convert-spaces"_s, u"--set"_s, u"quotation-style=0"_s, u"--set"_s, u"line-length=66"_s,
+                 {u"--convert-spaces"_s, u"--quotation-language"_s, u"de"_s, u"--set"_s, u"line-length=66"_s,
                   u"--set"_s, u"empty-lines=drop"_s},
                  {
                      {u"001_Die_Überfahrt.txt"_s, u"01-die-ueberfahrt.txt"_s},

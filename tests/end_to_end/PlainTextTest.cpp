@@ -64,14 +64,14 @@ TEST_F(PlainText, WrappingKeepsCharactersWhole)
     EXPECT_EQ(QByteArray(wrapped).replace("\n", ""), faces);
 }
 
-TEST_F(PlainText, QuotationStyleChoosesTheMarks)
+TEST_F(PlainText, QuotationLanguageChoosesTheMarks)
 {
-    EXPECT_EQ(exportOf("\"a\"", {u"quotation-style=0"_s}), "„a“");
-    EXPECT_EQ(exportOf("\"a\"", {u"quotation-style=1"_s}), "»a«");
-    EXPECT_EQ(exportOf("\"a\"", {u"quotation-style=2"_s}), "«a»");
-    EXPECT_EQ(exportOf("\"a\"", {u"quotation-style=4"_s}), "‘a’");
-    EXPECT_EQ(exportOf("\"a\"", {u"quotation-style=5"_s}), "”a”");
-    EXPECT_EQ(exportOf("\"a\"", {u"quotation-style=none"_s}), "\"a\"");
+    EXPECT_EQ(exportOf("\"a\"", {u"quotation-language=de"_s}), "„a“");
+    EXPECT_EQ(exportOf("\"a\"", {u"quotation-language=de_CH"_s}), "»a«");
+    EXPECT_EQ(exportOf("\"a\"", {u"quotation-language=fr"_s}), "«a»");
+    EXPECT_EQ(exportOf("\"a\"", {u"quotation-language=en_UK"_s}), "‘a’");
+    EXPECT_EQ(exportOf("\"a\"", {u"quotation-language=sv"_s}), "”a”");
+    EXPECT_EQ(exportOf("\"a\"", {u"quotation-language=none"_s}), "\"a\"");
 }
 
 TEST_F(PlainText, InlineTagsArePairs)

@@ -47,8 +47,8 @@ TEST_F(PluginFolder, ListShowsNamesExtensionAndChoices)
     EXPECT_EQ(result.output, uR"(plain-text: Plain Text (.txt)
   --set 'line-length=72'
       breaks lines that are longer (a number; 0 keeps long lines)
-  --set 'quotation-style=3'
-      makes straight quotation marks typographic (a style from 0 to 5, or none)
+  --set 'quotation-language=en_US'
+      makes straight quotation marks typographic (a language such as en_US, de or fr_FR, or none)
   --set 'inline-tags=**,**;//,//'
       deletes the tags around inline spans (pairs start,stop separated by semicolons)
   --set 'level-strings=###,##,#'
@@ -122,9 +122,8 @@ TEST_F(PluginFolder, LibraryThatIsNoPlugin)
 TEST_F(PluginFolder, DamagedPlugin)
 {
     EXPECT_TRUE(QDir().mkpath(plugins()));
-    const QByteArray whole = fileContent(plainTextPlugin);
-    writeFile(plugins() + u"/half.so"_s, whole.first(whole.size() / 2));
-    EXPECT_TRUE(reportsBadFile(u"half.so"_s, {}));
+    writeFile(plugins() + u"/cut.so"_s, fileContent(plainTextPlugin).first(1000));
+    EXPECT_TRUE(reportsBadFile(u"cut.so"_s, {u"it is no Qt plug-in"_s}));
 }
 
 TEST_F(PluginFolder, PluginOfAnotherKindIsNotRun)

@@ -1,8 +1,10 @@
 #include "PlainTextPlugin.h"
 
+#include <OrvaneExportKit/platform/Bundle.h>
 #include <OrvaneExportKit/text/EscapeSequences.h>
 #include <OrvaneExportKit/text/LineLayout.h>
 #include <OrvaneExportKit/text/QuotationMarks.h>
+#include <OrvaneExportKit/text/QuotationTable.h>
 #include <OrvaneExportKit/text/RangeLists.h>
 #include <OrvaneExportKit/text/TaggedSpans.h>
 #include <OrvaneExportKit/text/Typography.h>
@@ -53,13 +55,13 @@ bool setLineLength(Options &options, const QString &value)
     return length.has_value();
 }
 
-bool setQuotationStyle(Options &options, const QString &value)
+bool setQuotationLanguage(Options &options, const QString &value)
 {
-    const auto style = numberUpTo(5, value);
-    if (!style && value != u"none") {
+    const bool keepsStraightMarks = value == u"none";
+    if (!keepsStraightMarks && !platform::quotationMarks(platform::Bundle::kitBundle(), value).begin) {
         return false;
     }
-    options.quotationStyle = style ? std::optional(static_cast<qint32>(*style)) : std::nullopt;
+    options.quotationLanguage = keepsStraightMarks ? QString() : value;
     return true;
 }
 
@@ -147,8 +149,8 @@ const QList<ChoiceRule> &choiceRules()
     static const QList<ChoiceRule> rules = {
         {u"line-length"_s, u"72"_s, u"breaks lines that are longer"_s, u"a number; 0 keeps long lines"_s,
          setLineLength},
-        {u"quotation-style"_s, u"3"_s, u"makes straight quotation marks typographic"_s,
-         u"a style from 0 to 5, or none"_s, setQuotationStyle},
+        {u"quotation-language"_s, u"en_US"_s, u"makes straight quotation marks typographic"_s,
+         u"a language such as en_US, de or fr_FR, or none"_s, setQuotationLanguage},
         {u"inline-tags"_s, u"**,**;//,//"_s, u"deletes the tags around inline spans"_s,
          u"pairs start,stop separated by semicolons"_s, setInlineTags},
         {u"level-strings"_s, u"###,##,#"_s, u"deletes the marks of headings at the start of lines"_s,
@@ -161,6 +163,25 @@ const QList<ChoiceRule> &choiceRules()
         {u"typography"_s, u"yes"_s, u"corrects ellipses, apostrophes and dashes"_s, u"yes or no"_s, setTypography},
     };
     return rules;
+}
+
+/// Sets what the rule is for; throws, saying what is allowed, when the rule does not take the value.
+void apply(const ChoiceRule &rule, const QString &value, Options &options)
+{
+    if (!rule.set(options, value)) {
+        throw platform::InvalidArgumentException(
+            u"%1 takes %2; '%3' is nothing of that"_s.arg(rule.key, rule.allowedValues, value).toStdString());
+    }
+}
+
+Options optionsIn(const KZExportSettings &settings)
+{
+    Options options;
+    for (const ChoiceRule &rule : choiceRules()) {
+        const QVariant stored = settings.objectForKey(rule.key);
+        apply(rule, stored.isValid() ? stored.toString() : rule.defaultValue, options);
+    }
+    return options;
 }
 
 void endLinesWithLineFeeds(QString &text)
@@ -226,13 +247,6 @@ void wrapLines(QString &text, quint32 limit)
 
 } // namespace
 
-PlainTextPlugin::PlainTextPlugin()
-{
-    for (const ChoiceRule &rule : choiceRules()) {
-        rule.set(m_options, rule.defaultValue);
-    }
-}
-
 QString PlainTextPlugin::name() const
 {
     return u"plain-text"_s;
@@ -257,6 +271,11 @@ QList<ExportPlugin::Choice> PlainTextPlugin::choices() const
     return choices;
 }
 
+KZExportSettings &PlainTextPlugin::settings()
+{
+    return m_settings;
+}
+
 void PlainTextPlugin::setChoice(const QString &key, const QString &value)
 {
     const QList<ChoiceRule> &rules = choiceRules();
@@ -264,38 +283,38 @@ void PlainTextPlugin::setChoice(const QString &key, const QString &value)
     if (rule == rules.end()) {
         throw platform::InvalidArgumentException("there is no choice '" + key.toStdString() + "'");
     }
-    if (!rule->set(m_options, value)) {
-        throw platform::InvalidArgumentException(
-            u"%1 takes %2; '%3' is nothing of that"_s.arg(key, rule->allowedValues, value).toStdString());
-    }
+    Options checked;
+    apply(*rule, value, checked);
+    m_settings.setValue(value, key);
 }
 
 QByteArray PlainTextPlugin::exportedData(const ExportDocument & /*document*/,
                                          const platform::AttributedString &text) const
 {
+    const Options options = optionsIn(m_settings);
     QString plain = text.string();
     endLinesWithLineFeeds(plain);
-    for (const TagPair &tags : m_options.inlineTags) {
+    for (const TagPair &tags : options.inlineTags) {
         deleteTags(plain, tags);
     }
-    for (const QString &levelString : m_options.levelStrings) {
+    for (const QString &levelString : options.levelStrings) {
         deleteLevelMark(plain, levelString);
     }
-    deleteParagraphMarks(plain, m_options.paragraphMarks);
-    if (m_options.quotationStyle) {
-        convertQuotationsToType(plain, *m_options.quotationStyle);
+    deleteParagraphMarks(plain, options.paragraphMarks);
+    if (!options.quotationLanguage.isEmpty()) {
+        convertQuotationsToLanguage(plain, options.quotationLanguage);
     }
-    if (m_options.correctsTypography) {
+    if (options.correctsTypography) {
         correctTypography(plain);
     }
-    if (m_options.tabWidth) {
-        convertStartTabsToSpace(plain, *m_options.tabWidth);
+    if (options.tabWidth) {
+        convertStartTabsToSpace(plain, *options.tabWidth);
     }
-    if (!m_options.keepsEmptyLines) {
+    if (!options.keepsEmptyLines) {
         deleteEmptyLines(plain);
     }
-    if (m_options.lineLength > 0) {
-        wrapLines(plain, m_options.lineLength);
+    if (options.lineLength > 0) {
+        wrapLines(plain, options.lineLength);
     }
     return plain.toUtf8();
 }

@@ -25,8 +25,8 @@ public:
 
     /// All choices, in the form in which the export needs them.
     struct Options {
-        quint32 lineLength = 0;               ///< in UTF-16 code units; 0 for lines as long as they are
-        std::optional<qint32> quotationStyle; ///< a number of `convertQuotationsToType`; none keeps straight marks
+        quint32 lineLength = 0;    ///< in UTF-16 code units; 0 for lines as long as they are
+        QString quotationLanguage; ///< a code of the quotation table; empty keeps straight marks
         QList<TagPair> inlineTags;
         QStringList levelStrings; ///< the longest first
         QStringList paragraphMarks;
@@ -35,15 +35,14 @@ public:
         bool correctsTypography = true;
     };
 
-    PlainTextPlugin();
-
     QString name() const override;
     QString displayName() const override;
     QString pathExtension() const override;
     QList<Choice> choices() const override;
+    KZExportSettings &settings() override;
     void setChoice(const QString &key, const QString &value) override;
     QByteArray exportedData(const ExportDocument &document, const platform::AttributedString &text) const override;
 
 private:
-    Options m_options;
+    KZExportSettings m_settings{QStringLiteral("org.orvane.plain-text")};
 };

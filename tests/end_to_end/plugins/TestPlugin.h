@@ -14,8 +14,12 @@ public:
     QString displayName() const override { return name(); }
     QString pathExtension() const override { return QStringLiteral("txt"); }
     QList<Choice> choices() const override { return {}; }
+    KZExportSettings &settings() override { return m_settings; }
     void setChoice(const QString & /*key*/, const QString & /*value*/) override
     {
         throw platform::InvalidArgumentException("there are no choices");
     }
+
+private:
+    KZExportSettings m_settings{QStringLiteral("org.example.test-plugin")};
 };

@@ -14,6 +14,7 @@ public:
     QString displayName() const override { return QStringLiteral("Upper Case"); }
     QString pathExtension() const override { return QStringLiteral("upper"); }
     QList<Choice> choices() const override { return {}; }
+    KZExportSettings &settings() override { return m_settings; }
 
     void setChoice(const QString &key, const QString & /*value*/) override
     {
@@ -27,6 +28,9 @@ public:
         KZMutableAttributedStringExportAdditions::convertQuotationsToType(prepared, 3);
         return prepared.string().toUpper().toUtf8();
     }
+
+private:
+    KZExportSettings m_settings{QStringLiteral("org.example.upper-case")};
 };
 
 #include "UpperCasePlugin.moc"
