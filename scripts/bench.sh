@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds and runs the benchmarks; arguments go to the benchmark program (--benchmark_filter=REGEX, for instance).
+# Builds and runs the benchmarks; arguments go to the benchmark programs (--benchmark_filter=REGEX, for instance).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -9,3 +9,4 @@ cmake --preset release -B build/bench -DORVANE_BUILD_TESTS=OFF -DORVANE_BUILD_EX
     -DORVANE_BUILD_BENCHMARKS=ON -DCMAKE_CXX_COMPILER_LAUNCHER=ccache
 cmake --build build/bench
 build/bench/benchmarks/text_benchmarks "$@"
+build/bench/benchmarks/property_list_benchmarks "$@"

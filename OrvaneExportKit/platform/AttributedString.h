@@ -42,7 +42,8 @@ struct ORVANE_CORE_EXPORT AttributedString {
     /// The value of one attribute of the unit at `index`, or an invalid `QVariant` where the unit lacks it.
     ///
     /// `longestEffectiveRange`, where given, receives the largest range around `index`, limited to `within`, over
-    /// which the value stays equal (or stays absent); neighbouring runs with equal values count as one.
+    /// which the value stays equal (or stays absent); neighbouring runs with equal values count as one, also when they
+    /// are numbers of different types, which the text otherwise keeps apart.
     /// Throws `RangeException` when `within` reaches past the end or `index` does not lie inside it.
     QVariant attribute(const QString &name, std::size_t index, Range *longestEffectiveRange, Range within) const;
 

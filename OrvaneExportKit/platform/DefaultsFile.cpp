@@ -30,8 +30,8 @@ constexpr QLatin1StringView keptSuffix(".unreadable-");
 /// File systems take names up to 255 bytes; what is put behind a domain's name needs some of them.
 constexpr qsizetype longestDomainName = 255 - suffix.size() - keptSuffix.size() - 10;
 
-constexpr auto longestWaitForLock = 3s;
-constexpr auto pauseBetweenTries = 2ms;
+constexpr auto longestWaitForLock = 8s;
+constexpr auto pauseBetweenTries = 1ms;
 
 /// No program needs a lock for so long.
 constexpr auto abandonedLockAge = 2s;

@@ -8,8 +8,8 @@ namespace platform {
 
 /// How an error that the kit cannot hand back as a result reaches the user.
 ///
-/// The library with the windows shows a modal alert. A test, a command-line program or an author sets an object of its
-/// own to receive the errors as values; without any, nothing is shown and `lastError` still names the last one.
+/// A host with windows sets an object that shows a modal alert. A test, a command-line program or an author sets one
+/// that receives the errors as values. Without any, nothing is shown, and `lastError` still names the last one.
 class ORVANE_CORE_EXPORT ErrorAlert
 {
 public:

@@ -41,7 +41,8 @@ ORVANE_CORE_EXPORT void applyEdits(QString &text, const TextEdits &edits);
 ORVANE_CORE_EXPORT void requireEdits(const TextEdits &edits, std::size_t textLength);
 
 /// The same on attributed text. New units take the attributes of the first unit that they replace; units put into an
-/// empty range take those of the unit before it, at the very start those of the first unit.
+/// empty range take those of the unit before it, at the very start those of the first unit (of the text before any
+/// edit of the list).
 ORVANE_CORE_EXPORT void applyEdits(AttributedString &text, const TextEdits &edits);
 
 } // namespace platform

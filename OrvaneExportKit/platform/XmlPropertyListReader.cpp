@@ -50,7 +50,7 @@ QVariant Reader::read()
     if (root.form == XmlTag::Form::Empty || first.form == XmlTag::Form::End) {
         m_scanner.fail(first, u"`<plist>` holds no value"_s);
     }
-    const QVariant value = readValue(first, 0);
+    QVariant value = readValue(first, 0);
     const XmlTag end = m_scanner.nextTag(root.name);
     if (end.form != XmlTag::Form::End) {
         m_scanner.fail(end, u"`<plist>` holds more than one value"_s);

@@ -95,7 +95,7 @@ constexpr std::array<quint8, 128> base64Values()
     std::array<quint8, 128> values{};
     values.fill(notBase64);
     for (std::size_t i = 0; i < alphabet.size(); ++i) {
-        values[static_cast<std::size_t>(alphabet[i])] = static_cast<quint8>(i);
+        values[static_cast<quint8>(alphabet[i])] = static_cast<quint8>(i);
     }
     values['='] = 0;
     return values;
@@ -155,7 +155,7 @@ std::optional<QByteArray> dataFromXml(std::string_view text)
 {
     static constexpr std::array<quint8, 128> values = base64Values();
     QByteArray data;
-    data.reserve(static_cast<qsizetype>(text.size() / 4 * 3));
+    data.reserve(static_cast<qsizetype>(text.size()) / 4 * 3);
     quint32 group = 0;
     int charactersInGroup = 0;
     int padding = 0;

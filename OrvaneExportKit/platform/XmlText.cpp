@@ -51,7 +51,7 @@ constexpr QStringConverter::Flags strictly =
 
 QString decoded(QByteArrayView data, QStringDecoder decoder)
 {
-    const QString text = decoder.decode(data);
+    QString text = decoder.decode(data);
     const qsizetype end = firstNonCharacter(text);
     if (end < text.size()) {
         failAfter(text.first(end).toUtf8(), u"this is no character of "_s + QString::fromUtf8(decoder.name()));

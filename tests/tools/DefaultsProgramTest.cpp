@@ -84,6 +84,15 @@ protected:
         ASSERT_TRUE(UserDefaults(folder()).setPersistentDomain(domain, name));
     }
 
+    /// From now on, the program finds room for so many bytes in all folders of the test.
+    void fillDisk(int room)
+    {
+        environment.insert(u"LD_PRELOAD"_s, QStringLiteral(FULL_DISK_LIBRARY));
+        environment.insert(u"ASAN_OPTIONS"_s, u"verify_asan_link_order=0"_s);
+        environment.insert(u"ORVANE_FULL_DISK_FOLDER"_s, parentFolder());
+        environment.insert(u"ORVANE_FULL_DISK_AFTER"_s, QString::number(room));
+    }
+
     QString savedText() const { return QString::fromUtf8(support::fileContent(path(domainName))); }
 
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -359,21 +368,30 @@ TEST_F(DefaultsProgram, AFullDiskLeavesTheOldSettingsAndIsReported)
 {
     set({{u"text"_s, u"old"_s}});
     const auto oldFiles = support::filesBelow(folder());
-    const QString newText(20000, u'x');
-    environment.insert(u"LD_PRELOAD"_s, QStringLiteral(FULL_DISK_LIBRARY));
-    environment.insert(u"ASAN_OPTIONS"_s, u"verify_asan_link_order=0"_s);
-    environment.insert(u"ORVANE_FULL_DISK_FOLDER"_s, folder());
-    const auto runWithRoom = [&](int bytes) {
-        environment.insert(u"ORVANE_FULL_DISK_AFTER"_s, QString::number(bytes));
-        return run({u"write"_s, domainName, u"text"_s, newText});
+    const auto writeWithRoom = [&](const QString &text, int bytes) {
+        fillDisk(bytes);
+        return run({u"write"_s, domainName, u"text"_s, text});
     };
-    for (const int room : {0, 10, 120, 300, 4096, 16384, 20000}) {
-        EXPECT_TRUE(failed(runWithRoom(room), failure, path(domainName))) << room;
+    const QString shortText(3000, u'x');
+    const QString longText(20000, u'x');
+    for (const int room : {0, 10, 120, 300, 3000}) {
+        EXPECT_TRUE(failed(writeWithRoom(shortText, room), failure, path(domainName))) << room;
+        EXPECT_TRUE(failed(writeWithRoom(longText, room), failure, path(domainName))) << room;
         EXPECT_EQ(support::filesBelow(folder()), oldFiles) << room;
     }
-    EXPECT_TRUE(support::contains(runWithRoom(0).errors, u"make room on the disk"_s));
-    EXPECT_TRUE(printed(runWithRoom(21000), QString()));
-    EXPECT_EQ(savedDomain(domainName), (QVariantMap{{u"text"_s, newText}}));
+    EXPECT_TRUE(support::contains(writeWithRoom(shortText, 0).errors, u"make room on the disk"_s));
+    EXPECT_TRUE(printed(writeWithRoom(shortText, 4000), QString()));
+    EXPECT_EQ(savedDomain(domainName), (QVariantMap{{u"text"_s, shortText}}));
+}
+
+TEST_F(DefaultsProgram, AFullDiskLeavesTheOldExportAndIsReported)
+{
+    set({{u"text"_s, u"new"_s}});
+    const QString file = parentFolder() + u"/backup.plist"_s;
+    support::writeFile(file, "old");
+    fillDisk(100);
+    EXPECT_TRUE(failed(run({u"export"_s, domainName, file}), failure, file));
+    EXPECT_EQ(support::fileContent(file), "old");
 }
 
 } // namespace

@@ -115,8 +115,11 @@ qint64 writeNumbers(const QString &folder, const QString &key, std::chrono::mill
     qint64 number = 0;
     while (!timer.hasExpired(duration.count())) {
         ++number;
-        EXPECT_TRUE(defaults.setObject(number, key)) << testing::PrintToString(defaults.lastError());
+        if (!defaults.setObject(number, key)) { // on a busy machine the other program may have had every turn
+            EXPECT_TRUE(support::contains(defaults.lastError(), u"keeps it locked"_s));
+        }
     }
+    EXPECT_TRUE(defaults.synchronize()) << testing::PrintToString(defaults.lastError());
     return number;
 }
 

@@ -170,25 +170,34 @@ void limitFileSize(rlim_t bytes)
     EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
 }
 
+/// Sets a domain with a text of so many characters while files cannot get longer than `room`.
+void expectSavedOnceThereIsRoom(const QString &folder, qsizetype length, rlim_t room)
+{
+    SCOPED_TRACE(testing::Message() << length << " characters, room for " << room << " bytes");
+    UserDefaults defaults(folder);
+    EXPECT_TRUE(defaults.setPersistentDomain(oldDomain, domainName));
+    const auto files = support::filesBelow(folder);
+    const QVariantMap newDomain{{u"text"_s, QString(length, u'x')}};
+    limitFileSize(room);
+    EXPECT_FALSE(defaults.setPersistentDomain(newDomain, domainName));
+    EXPECT_TRUE(support::contains(defaults.lastError(), folder));
+    EXPECT_EQ(defaults.persistentDomainForName(domainName), newDomain);
+    EXPECT_FALSE(defaults.synchronize());
+    EXPECT_EQ(support::filesBelow(folder), files);
+    limitFileSize(RLIM_INFINITY);
+    EXPECT_TRUE(defaults.synchronize()) << testing::PrintToString(defaults.lastError());
+    EXPECT_EQ(UserDefaults(folder).persistentDomainForName(domainName), newDomain);
+}
+
 TEST_F(UnsavedDefaults, ComeFromADiskThatTakesNoMoreAndLeaveTheOldSettings)
 {
-    for (const rlim_t room : std::array<rlim_t, 7>{0, 1, 150, 250, 1000, 16384, 20000}) {
-        support::runInChild([&] {
-            UserDefaults defaults(folder());
-            EXPECT_TRUE(defaults.setPersistentDomain(oldDomain, domainName));
-            const auto files = support::filesBelow(folder());
-            const QVariantMap newDomain{{u"text"_s, QString(40000, u'x')}};
-            limitFileSize(room);
-            EXPECT_FALSE(defaults.setPersistentDomain(newDomain, domainName)) << room;
-            EXPECT_TRUE(support::contains(defaults.lastError(), path(domainName)));
-            EXPECT_EQ(defaults.persistentDomainForName(domainName), newDomain);
-            EXPECT_FALSE(defaults.synchronize());
-            EXPECT_EQ(support::filesBelow(folder()), files);
-            limitFileSize(RLIM_INFINITY);
-            EXPECT_TRUE(defaults.synchronize()) << testing::PrintToString(defaults.lastError());
-            EXPECT_EQ(savedDomain(domainName), newDomain);
-        });
-    }
+    support::runInChild([&] {
+        for (const qsizetype length : {1000, 40000}) { // fits into a buffer of QFile, does not
+            for (const rlim_t room : std::array<rlim_t, 5>{0, 1, 150, 250, 1000}) {
+                expectSavedOnceThereIsRoom(folder(), length, room);
+            }
+        }
+    });
 }
 
 } // namespace
