@@ -118,7 +118,8 @@ QList<JsonPart> documentParts(const JsonPart &root)
         throw manuscriptError(u"%1 needs a \"documents\" with a list, [...], as its value"_s.arg(root.description));
     }
     QList<JsonPart> parts;
-    for (const QJsonValue &document : documents.toArray()) {
+    const QJsonArray entries = documents.toArray();
+    for (const auto &document : entries) {
         const QString description = u"document %1 in %2"_s.arg(parts.size() + 1).arg(root.description);
         if (!document.isObject()) {
             throw manuscriptError(u"%1 must be an object, {...}"_s.arg(description));
@@ -148,7 +149,7 @@ QString manifestPath(const QString &folder)
     if (!info.isDir()) {
         throw manuscriptError(u"%1 is no folder; give the folder that holds manuscript.json"_s.arg(quoted(folder)));
     }
-    const QString path = platform::appendingPathComponent(folder, u"manuscript.json"_s);
+    QString path = platform::appendingPathComponent(folder, u"manuscript.json"_s);
     if (!QFileInfo::exists(path)) {
         throw manuscriptError(
             u"there is no manuscript.json in %1; give the folder that holds it"_s.arg(quoted(folder)));

@@ -143,7 +143,7 @@ QString destinationFolder(const ExportRequest &request)
 QStringList outputPaths(const ExportRequest &request, const Manuscript &manuscript, const QString &extension)
 {
     requireWritableFolder(request);
-    const QStringList paths = pathsByPattern(request, manuscript, extension);
+    QStringList paths = pathsByPattern(request, manuscript, extension);
     refuseRepeatedPaths(paths, manuscript);
     const QList<platform::PathFinding> existing = platform::existingPaths(paths);
     refuseFolders(existing);

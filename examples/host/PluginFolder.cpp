@@ -136,7 +136,7 @@ void PluginFolder::add(const QString &file)
 
 QString defaultPluginFolder()
 {
-    const QString named = qEnvironmentVariable("ORVANE_PLUGIN_PATH");
+    QString named = qEnvironmentVariable("ORVANE_PLUGIN_PATH");
     if (!named.isEmpty()) {
         return named;
     }
