@@ -3,6 +3,7 @@
 #include <OrvaneExportKit/platform/BinaryPropertyListFormat.h>
 #include <OrvaneExportKit/platform/BinaryPropertyListObjects.h>
 #include <OrvaneExportKit/platform/PropertyList.h>
+#include <OrvaneExportKit/platform/PropertyListError.h>
 #include <OrvaneExportKit/platform/PropertyListValues.h>
 
 #include <QtCore/QDateTime>
@@ -16,8 +17,6 @@
 namespace platform {
 
 namespace {
-
-using namespace Qt::Literals::StringLiterals;
 
 /// Eight bytes are a signed number; the others are unsigned, and of sixteen the last eight count.
 QVariant readInteger(const BinaryObject &object)
@@ -89,7 +88,7 @@ QVariant readScalar(const BinaryObject &object)
 void requireNesting(int containers, quint64 position)
 {
     if (containers > PropertyList::maximumNesting) {
-        failAtByte(position, u"more than %1 containers stand inside each other"_s.arg(PropertyList::maximumNesting));
+        failAtByte(position, nestingComplaint());
     }
 }
 

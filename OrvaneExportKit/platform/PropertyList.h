@@ -68,8 +68,8 @@ struct ORVANE_CORE_EXPORT PropertyList {
         QString error;                  ///< empty when there is data
     };
 
-    /// Reads a property list of either format. What the data holds more than once it holds once in memory, and nothing
-    /// is allocated for a count before the data proves to be long enough for it.
+    /// Reads a property list of either format. The memory that this takes follows the length of the data, never a count
+    /// that stands in it; values that a binary list refers to more than once are shared.
     ///
     /// Refused, beside what is malformed: deeper nesting than `maximumNesting`, XML with a document type of its own
     /// (so that no entity can expand), binary objects that overlap or hold themselves, and dates more than 292 million
@@ -80,8 +80,8 @@ struct ORVANE_CORE_EXPORT PropertyList {
     ///
     /// Refused: null values and types outside the table ("styles[2].font: a value of type QFont is not a property-list
     /// value"), deeper nesting than `maximumNesting`, values that together would take more than a gibibyte (a few small
-    /// containers that share each other can expand to that), and in XML strings and keys with U+0000 or half a
-    /// surrogate pair, which the format cannot hold.
+    /// containers that share each other can expand to that), and, in XML alone, strings and keys with U+0000 or half a
+    /// surrogate pair.
     static WriteResult write(const QVariant &value, Format format);
 };
 

@@ -126,7 +126,7 @@ void Check::requireText(const QString &text, const QString &name)
 void Check::enterContainer()
 {
     if (m_path.size() == PropertyList::maximumNesting) {
-        fail(u"more than %1 containers stand inside each other"_s.arg(PropertyList::maximumNesting));
+        fail(nestingComplaint());
     }
     m_path.emplace_back();
 }
@@ -139,20 +139,24 @@ void Check::spend(qint64 size)
     }
 }
 
+/// The way to the value, of a long one only both ends: `styles[2].font`.
 QString Check::path() const
 {
-    constexpr std::size_t longestPath = 8;
+    constexpr std::size_t longestEnd = 8;
     constexpr qsizetype longestKey = 40;
     QString path;
-    for (std::size_t i = 0; i < std::min(m_path.size(), longestPath); ++i) {
+    for (std::size_t i = 0; i < m_path.size(); ++i) {
+        if (i == longestEnd && m_path.size() > 2 * longestEnd) {
+            path += u"..."_s;
+            i = m_path.size() - longestEnd;
+        }
         if (m_path[i].key == nullptr) {
             path += u"[%1]"_s.arg(m_path[i].index);
         } else {
             path += (path.isEmpty() ? u""_s : u"."_s) + m_path[i].key->left(longestKey);
         }
     }
-    path.replace(QChar::Null, QChar::ReplacementCharacter);
-    return m_path.size() > longestPath ? path + u"..."_s : path;
+    return path.replace(QChar::Null, QChar::ReplacementCharacter);
 }
 
 void Check::fail(const QString &what) const

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtCore/QString>
+#include <OrvaneExportKit/platform/PropertyList.h>
 
 namespace platform {
 
@@ -9,5 +9,11 @@ namespace platform {
 struct PropertyListError {
     QString description; ///< one sentence that begins with the place
 };
+
+/// What readers and writers say when the nesting goes beyond its limit.
+inline QString nestingComplaint()
+{
+    return QStringLiteral("more than %1 containers stand inside each other").arg(PropertyList::maximumNesting);
+}
 
 } // namespace platform

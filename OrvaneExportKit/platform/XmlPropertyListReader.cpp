@@ -1,6 +1,7 @@
 #include <OrvaneExportKit/platform/XmlPropertyListReader.h>
 
 #include <OrvaneExportKit/platform/PropertyList.h>
+#include <OrvaneExportKit/platform/PropertyListError.h>
 #include <OrvaneExportKit/platform/PropertyListValues.h>
 #include <OrvaneExportKit/platform/XmlScalars.h>
 #include <OrvaneExportKit/platform/XmlScanner.h>
@@ -9,6 +10,7 @@
 #include <QtCore/QDateTime>
 
 #include <limits>
+#include <optional>
 #include <string_view>
 
 namespace platform {
@@ -41,21 +43,18 @@ private:
 
 QVariant Reader::read()
 {
-    m_scanner.skipProlog();
-    const XmlTag root = m_scanner.nextTag({});
+    const XmlTag root = m_scanner.firstTag();
     if (root.name != "plist" || root.form == XmlTag::Form::End) {
         return readValue(root, 0);
     }
-    const XmlTag first = root.form == XmlTag::Form::Empty ? root : m_scanner.nextTag(root.name);
-    if (root.form == XmlTag::Form::Empty || first.form == XmlTag::Form::End) {
-        m_scanner.fail(first, u"`<plist>` holds no value"_s);
+    const std::optional<XmlTag> child = m_scanner.nextChild(root);
+    if (!child) {
+        m_scanner.fail(root, u"this list holds no value"_s);
     }
-    QVariant value = readValue(first, 0);
-    const XmlTag end = m_scanner.nextTag(root.name);
-    if (end.form != XmlTag::Form::End) {
-        m_scanner.fail(end, u"`<plist>` holds more than one value"_s);
+    QVariant value = readValue(*child, 0);
+    if (const std::optional<XmlTag> another = m_scanner.nextChild(root)) {
+        m_scanner.fail(*another, u"this value is not the only one of its list"_s);
     }
-    m_scanner.requireEnd(end, root.name);
     return value;
 }
 
@@ -98,14 +97,9 @@ QVariant Reader::readArray(const XmlTag &tag, int containers)
 {
     requireNesting(tag, containers);
     QVariantList elements;
-    if (tag.form == XmlTag::Form::Empty) {
-        return elements;
+    while (const std::optional<XmlTag> element = m_scanner.nextChild(tag)) {
+        elements.append(readValue(*element, containers + 1));
     }
-    XmlTag child = m_scanner.nextTag(tag.name);
-    for (; child.form != XmlTag::Form::End; child = m_scanner.nextTag(tag.name)) {
-        elements.append(readValue(child, containers + 1));
-    }
-    m_scanner.requireEnd(child, tag.name);
     return elements;
 }
 
@@ -113,22 +107,17 @@ QVariant Reader::readDictionary(const XmlTag &tag, int containers)
 {
     requireNesting(tag, containers);
     QVariantMap entries;
-    if (tag.form == XmlTag::Form::Empty) {
-        return entries;
-    }
-    XmlTag keyTag = m_scanner.nextTag(tag.name);
-    for (; keyTag.form != XmlTag::Form::End; keyTag = m_scanner.nextTag(tag.name)) {
-        if (keyTag.name != "key") {
-            m_scanner.fail(keyTag, u"this value in a dictionary has no key"_s);
+    while (const std::optional<XmlTag> key = m_scanner.nextChild(tag)) {
+        if (key->name != "key") {
+            m_scanner.fail(*key, u"this value in a dictionary has no key"_s);
         }
-        const QString key = readText(keyTag);
-        const XmlTag valueTag = m_scanner.nextTag(tag.name);
-        if (valueTag.form == XmlTag::Form::End || valueTag.name == "key") {
-            m_scanner.fail(keyTag, u"this key in a dictionary has no value"_s);
+        const QString name = readText(*key);
+        const std::optional<XmlTag> value = m_scanner.nextChild(tag);
+        if (!value || value->name == "key") {
+            m_scanner.fail(*key, u"this key in a dictionary has no value"_s);
         }
-        entries.insert(entries.cend(), key, readValue(valueTag, containers + 1)); // keys mostly come in order
+        entries.insert(entries.cend(), name, readValue(*value, containers + 1)); // keys mostly come in order
     }
-    m_scanner.requireEnd(keyTag, tag.name);
     return uidOrDictionary(tag, entries);
 }
 
@@ -154,8 +143,8 @@ QVariant Reader::uidOrDictionary(const XmlTag &tag, const QVariantMap &entries) 
 
 QVariant Reader::readBoolean(const XmlTag &tag)
 {
-    if (tag.form == XmlTag::Form::Start) {
-        m_scanner.requireEnd(m_scanner.nextTag(tag.name), tag.name);
+    if (const std::optional<XmlTag> child = m_scanner.nextChild(tag)) {
+        m_scanner.fail(*child, u"a boolean holds no elements"_s);
     }
     return tag.name == "true";
 }
@@ -180,7 +169,7 @@ QString Reader::readText(const XmlTag &tag)
 void Reader::requireNesting(const XmlTag &tag, int containers) const
 {
     if (containers == PropertyList::maximumNesting) {
-        m_scanner.fail(tag, u"more than %1 containers stand inside each other"_s.arg(PropertyList::maximumNesting));
+        m_scanner.fail(tag, nestingComplaint());
     }
 }
 

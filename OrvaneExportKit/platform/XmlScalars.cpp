@@ -137,10 +137,12 @@ std::optional<QDateTime> dateFromXml(std::string_view text)
 {
     constexpr std::string_view afterYear = "-00-00T00:00:00Z";
     const bool negative = text.starts_with('-');
-    const std::string_view digits = text.substr(negative ? 1 : 0, text.find('-', 1) - (negative ? 1 : 0));
-    const std::string_view fields = text.substr(std::min(text.find('-', 1), text.size()));
+    text.remove_prefix(negative ? 1 : 0);
+    const std::size_t yearEnd = std::min(text.find('-'), text.size());
+    const std::string_view fields = text.substr(yearEnd);
     quint32 year = 0;
-    if (parseWhole(digits, year, 10) != std::errc() || year > maximumYear || !matches(fields, afterYear)) {
+    if (parseWhole(text.substr(0, yearEnd), year, 10) != std::errc() || year > maximumYear ||
+        !matches(fields, afterYear)) {
         return std::nullopt;
     }
     const auto field = [fields](std::size_t position) {

@@ -81,6 +81,36 @@ std::optional<char32_t> referencedEntity(std::string_view name)
 
 } // namespace
 
+XmlTag XmlScanner::firstTag()
+{
+    skipProlog();
+    if (atEnd()) {
+        failAt(m_position, u"there is no property list"_s);
+    }
+    if (current() != '<' || at("<!")) {
+        failAt(m_position, u"this is not a property list"_s);
+    }
+    return parseTag();
+}
+
+std::optional<XmlTag> XmlScanner::nextChild(const XmlTag &parent)
+{
+    if (parent.form == XmlTag::Form::Empty) {
+        return std::nullopt;
+    }
+    skipBlanks();
+    requireMore(parent);
+    if (current() != '<' || at("<!")) {
+        failAt(m_position, u"`<%1>` holds something other than elements"_s.arg(string(parent.name)));
+    }
+    const XmlTag tag = parseTag();
+    if (tag.form == XmlTag::Form::End) {
+        requireEnd(tag, parent);
+        return std::nullopt;
+    }
+    return tag;
+}
+
 void XmlScanner::skipProlog()
 {
     for (skipBlanks(); at(documentType); skipBlanks()) {
@@ -147,20 +177,6 @@ void XmlScanner::skipToMarkupEnd()
     }
 }
 
-XmlTag XmlScanner::nextTag(std::string_view parent)
-{
-    skipBlanks();
-    if (atEnd()) {
-        failAt(m_position,
-               parent.empty() ? u"there is no property list"_s : u"the text ends before `</%1>`"_s.arg(string(parent)));
-    }
-    if (current() != '<' || at("<!")) {
-        failAt(m_position, parent.empty() ? u"this is not a property list"_s
-                                          : u"`<%1>` holds something other than elements"_s.arg(string(parent)));
-    }
-    return parseTag();
-}
-
 /// The tag that begins here. Attributes mean nothing in a property list.
 XmlTag XmlScanner::parseTag()
 {
@@ -180,10 +196,17 @@ XmlTag XmlScanner::parseTag()
     return {name, form, m_text.substr(start, m_position - start)};
 }
 
-void XmlScanner::requireEnd(const XmlTag &end, std::string_view name) const
+void XmlScanner::requireEnd(const XmlTag &end, const XmlTag &start) const
 {
-    if (end.form != XmlTag::Form::End || end.name != name) {
-        fail(end, u"here `</%1>` should stand"_s.arg(string(name)));
+    if (end.name != start.name) {
+        fail(end, u"here `</%1>` should stand"_s.arg(string(start.name)));
+    }
+}
+
+void XmlScanner::requireMore(const XmlTag &element) const
+{
+    if (atEnd()) {
+        failAt(m_position, u"the text ends before `</%1>`"_s.arg(string(element.name)));
     }
 }
 
@@ -194,14 +217,14 @@ std::string_view XmlScanner::readContent(const XmlTag &tag)
     }
     const std::string_view start = readRun();
     if (at("</")) {
-        requireEnd(parseTag(), tag.name);
+        requireEnd(parseTag(), tag);
         return start;
     }
     m_content = start;
     while (!at("</")) {
         appendPiece(tag);
     }
-    requireEnd(parseTag(), tag.name);
+    requireEnd(parseTag(), tag);
     return m_content;
 }
 
@@ -209,6 +232,7 @@ std::string_view XmlScanner::readContent(const XmlTag &tag)
 /// comment.
 void XmlScanner::appendPiece(const XmlTag &tag)
 {
+    requireMore(tag);
     if (current() == '&') {
         appendReference();
     } else if (at(cdataStart)) {

@@ -2,6 +2,7 @@
 
 #include <QtCore/QString>
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -30,30 +31,31 @@ class XmlScanner
 public:
     explicit XmlScanner(std::string_view text) : m_text(text) {}
 
-    /// Moves past what may stand before the first element.
-    void skipProlog();
+    /// The first tag of the text.
+    XmlTag firstTag();
 
-    /// The next tag inside the element `parent`, or before all elements when that is empty.
-    XmlTag nextTag(std::string_view parent);
+    /// The tag that the next child of the element begins with; nothing, after which its end tag is passed, when there
+    /// are no more. Throws when something else than elements stands there.
+    std::optional<XmlTag> nextChild(const XmlTag &parent);
 
     /// The characters between a start tag and its end tag, with references resolved; none for an empty element. Valid
     /// until the next call.
     std::string_view readContent(const XmlTag &tag);
-
-    /// Throws unless the tag is the end tag of that name.
-    void requireEnd(const XmlTag &end, std::string_view name) const;
 
     /// Throws an error whose place is that of the tag.
     [[noreturn]] void fail(const XmlTag &tag, const QString &complaint) const;
 
 private:
     [[noreturn]] void failAt(std::size_t position, const QString &complaint) const;
+    void skipProlog();
     void skipDocumentType();
     void skipBlanks();
     bool skipComment();
     bool skipPast(std::string_view end);
     void skipToMarkupEnd();
     XmlTag parseTag();
+    void requireEnd(const XmlTag &end, const XmlTag &start) const;
+    void requireMore(const XmlTag &element) const;
     void appendPiece(const XmlTag &tag);
     void appendReference();
     void appendCdata();

@@ -4,8 +4,9 @@
 
 #include <QtCore/QStringConverter>
 
-#include <algorithm>
+#include <optional>
 #include <string_view>
+#include <utility>
 
 namespace platform {
 
@@ -96,29 +97,27 @@ QByteArray xmlText(QByteArrayView data)
 
 void appendUtf8(std::string &text, char32_t character)
 {
-    const auto append = [&text](char32_t lead, char32_t bits) {
-        text += static_cast<char>(lead | bits);
+    const auto append = [&text](char32_t mark, char32_t bits) {
+        text += static_cast<char>(mark | bits);
     };
-    constexpr char32_t continuation = 0x80;
     if (character < 0x80) {
         append(0, character);
         return;
     }
     if (character < 0x800) {
         append(0xC0, character >> 6);
+    } else if (character < 0x10000) {
+        append(0xE0, character >> 12);
+        append(0x80, character >> 6 & 0x3F);
     } else {
-        if (character < 0x10000) {
-            append(0xE0, character >> 12);
-        } else {
-            append(0xF0, character >> 18);
-            append(continuation, character >> 12 & 0x3F);
-        }
-        append(continuation, character >> 6 & 0x3F);
+        append(0xF0, character >> 18);
+        append(0x80, character >> 12 & 0x3F);
+        append(0x80, character >> 6 & 0x3F);
     }
-    append(continuation, character & 0x3F);
+    append(0x80, character & 0x3F);
 }
 
-void failAfter(QByteArrayView textBefore, const QString &what)
+void failAfter(QByteArrayView textBefore, const QString &complaint)
 {
     qsizetype line = 1;
     qsizetype column = 1;
@@ -133,7 +132,7 @@ void failAfter(QByteArrayView textBefore, const QString &what)
         }
         previous = byte;
     }
-    throw PropertyListError{u"line %1, column %2: "_s.arg(line).arg(column) + what};
+    throw PropertyListError{u"line %1, column %2: "_s.arg(line).arg(column) + complaint};
 }
 
 } // namespace platform

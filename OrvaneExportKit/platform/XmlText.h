@@ -18,6 +18,6 @@ QByteArray xmlText(QByteArrayView data);
 void appendUtf8(std::string &text, char32_t character);
 
 /// Throws a `PropertyListError` whose place is the line and column right after the given UTF-8 text.
-[[noreturn]] void failAfter(QByteArrayView textBefore, const QString &what);
+[[noreturn]] void failAfter(QByteArrayView textBefore, const QString &complaint);
 
 } // namespace platform

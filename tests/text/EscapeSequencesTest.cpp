@@ -56,6 +56,13 @@ TEST(StringWithConvertedEscSequences, LeavesControlCharactersThatNoBackslashPrec
     EXPECT_EQ(stringWithConvertedEscSequences(u"a\nb\tc\fd"), u"a\nb\tc\fd"_s);
 }
 
+TEST(StringWithConvertedEscSequences, DependsOnNothingOutsideTheView)
+{
+    const QStringView text = uR"(\\n)";
+    EXPECT_EQ(stringWithConvertedEscSequences(text.mid(1)), u"\n"_s);
+    EXPECT_EQ(stringWithConvertedEscSequences(text.left(2)), uR"(\\)"_s);
+}
+
 TEST(StringWithConvertedEscSequences, LeavesAnEmptyTextEmpty)
 {
     EXPECT_EQ(stringWithConvertedEscSequences(u""), u""_s);

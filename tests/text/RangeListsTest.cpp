@@ -44,6 +44,19 @@ TEST(AscendingSortedRanges, KeepTheOrderOfEqualLocations)
               (RangeList{{1, 2}, {1, 0}, {5, 10}, {5, 1}, {5, 4}}));
 }
 
+TEST(AscendingSortedRanges, KeepTheOrderOfEqualLocationsInALongList)
+{
+    RangeList ranges;
+    RangeList expected;
+    for (const std::size_t location : {1, 0}) {
+        for (std::size_t length = 0; length < 1000; ++length) {
+            ranges.push_back({location, length});
+            expected.push_back({1 - location, length});
+        }
+    }
+    EXPECT_EQ(ascendingSortedRanges(ranges), expected);
+}
+
 TEST(AscendingSortedRanges, KeepDuplicates)
 {
     EXPECT_EQ(ascendingSortedRanges({{3, 1}, {0, 1}, {3, 1}}), (RangeList{{0, 1}, {3, 1}, {3, 1}}));

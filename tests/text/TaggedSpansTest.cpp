@@ -324,6 +324,7 @@ TEST(RangesForStartTag, DoNotOverlap)
     EXPECT_EQ(rangesForStartTag(u"***", u"**", u"**"), RangeList());
     EXPECT_EQ(rangesForStartTag(u"*****", u"**", u"**"), (RangeList{{0, 2}, {2, 2}}));
     EXPECT_EQ(rangesForStartTag(u"aba", u"ab", u"ba"), RangeList());
+    EXPECT_EQ(rangesForStartTag(u"bxabxab", u"b", u"ab"), (RangeList{{0, 1}, {2, 2}}));
 }
 
 TEST(RangesForStartTag, SearchOnBehindADoubleSlashThatIsSkipped)
@@ -363,6 +364,13 @@ TEST(RangesForStartTag, TakeWhiteSpaceAsItStands)
 {
     EXPECT_EQ(rangesForStartTag(u" \n [ \n ] ", u"[", u"]"), (RangeList{{3, 1}, {7, 1}}));
     EXPECT_EQ(rangesForStartTag(u"a x \n", u" ", u"\n"), (RangeList{{1, 1}, {4, 1}}));
+}
+
+TEST(RangesForStartTag, DependOnNothingOutsideTheView)
+{
+    const QStringView text = u"://x//]";
+    EXPECT_EQ(rangesForStartTag(text.mid(1), u"//", u"//"), (RangeList{{0, 2}, {3, 2}}));
+    EXPECT_EQ(rangesForStartTag(text.left(6), u"x", u"]"), RangeList());
 }
 
 TEST(RangesForStartTag, AreNoneForAnEmptyTextOrTag)
