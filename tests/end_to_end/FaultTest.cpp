@@ -77,7 +77,7 @@ TEST_F(Fault, KilledAtAnyMomentLeavesWholeFilesOnly)
     }
     writeManuscript(documents);
 
-    std::mt19937 random(1); // NOLINT(cert-msc51-cpp): the same moments in every run of the test
+    std::mt19937 random(1); // the same moments in every run of the test
     std::uniform_int_distribution<int> filesBefore(0, documentCount / 2);
     std::uniform_int_distribution<int> microsecondsLater(0, 3000);
     int cutShort = 0;

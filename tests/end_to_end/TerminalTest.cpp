@@ -30,7 +30,7 @@ protected:
     /// The files in the destination; each must be whole.
     QStringList wholeFiles() const
     {
-        const QStringList names = filesIn(destination());
+        QStringList names = filesIn(destination());
         for (const QString &name : names) {
             EXPECT_EQ(fileContent(exported(name)), text);
         }
