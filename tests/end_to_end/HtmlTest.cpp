@@ -114,7 +114,7 @@ TEST_F(Html, IndexNamesAllDocuments)
 TEST_F(Html, ADocumentThatWouldBeTheIndexIsRefused)
 {
     writeManuscript({{u"index"_s, "text"}});
-    EXPECT_TRUE(failedWith(3,
+    EXPECT_TRUE(failedWith(4,
                            {u"document 1, 'index': '%1'"_s.arg(exported(u"index.html"_s)), u"the plug-in's own file"_s},
                            runExport({u"--plugin"_s, u"html"_s, u"--pattern"_s, u"<2>"_s})));
 }
