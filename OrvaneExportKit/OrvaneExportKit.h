@@ -11,6 +11,7 @@
 #include <OrvaneExportKit/platform/ErrorAlert.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/platform/LineRanges.h>
+#include <OrvaneExportKit/platform/NotificationCenter.h>
 #include <OrvaneExportKit/platform/OpenPanel.h>
 #include <OrvaneExportKit/platform/Paths.h>
 #include <OrvaneExportKit/platform/PropertyList.h>
@@ -20,6 +21,7 @@
 #include <OrvaneExportKit/platform/Translations.h>
 #include <OrvaneExportKit/platform/UserDefaults.h>
 #include <OrvaneExportKit/platform/ValueTransformer.h>
+#include <OrvaneExportKit/run/AbortFlag.h>
 #include <OrvaneExportKit/run/ExportDocument.h>
 #include <OrvaneExportKit/run/ExportPlugin.h>
 #include <OrvaneExportKit/run/FileNameChecks.h>

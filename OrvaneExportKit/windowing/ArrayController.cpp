@@ -39,7 +39,7 @@ QVariant ArrayController::data(const QModelIndex &index, int role) const
         return {};
     }
     const QVariant value = m_content[index.row()].value(m_keys[index.column()]);
-    return role == Qt::DisplayRole ? value : Qt::convertFromPlainText(value.toString());
+    return role == Qt::DisplayRole ? value : Qt::convertFromPlainText(value.toString(), Qt::WhiteSpaceNormal);
 }
 
 } // namespace windowing

@@ -79,7 +79,8 @@ WidgetClassRegistration::~WidgetClassRegistration()
     classes.removeAt(classes.lastIndexOf({m_className, m_factory}));
 }
 
-std::unique_ptr<QWidget> UiLoader::load(const platform::Bundle &bundle, const QString &name)
+std::unique_ptr<QWidget> UiLoader::loadForm(const platform::Bundle &bundle, const QString &name,
+                                            const QMetaObject &type)
 {
     const QString path = bundle.pathForResource(name, u"ui"_s);
     if (path.isEmpty()) {
@@ -96,6 +97,9 @@ std::unique_ptr<QWidget> UiLoader::load(const platform::Bundle &bundle, const QS
     }
     if (!loader.unknownClasses().isEmpty()) {
         throw interfaceFileError(path, u"no widget class %1 is known"_s.arg(loader.unknownClasses().join(u", "_s)));
+    }
+    if (!form->metaObject()->inherits(&type)) {
+        throw interfaceFileError(path, u"the form is no %1"_s.arg(QString::fromLatin1(type.className())));
     }
     return form;
 }

@@ -47,7 +47,7 @@ private:
 
 /// Loads interface files made with Qt Designer from a bundle, and finds the objects in them.
 ///
-///     const auto panel = windowing::UiLoader::load(platform::Bundle::kitBundle(), u"ExistingFiles"_s);
+///     const auto panel = windowing::UiLoader::load<QDialog>(platform::Bundle::kitBundle(), u"ExistingFiles"_s);
 ///     auto *infoField = windowing::UiLoader::outlet<QLabel>(*panel, u"infoField"_s);
 ///     QObject::connect(windowing::UiLoader::outlet<QPushButton>(*panel, u"cancelButton"_s), ...);
 class ORVANE_KIT_EXPORT UiLoader
@@ -55,12 +55,16 @@ class ORVANE_KIT_EXPORT UiLoader
 public:
     UiLoader() = delete;
 
-    /// The widgets of the bundle's resource "name.ui", which the caller owns. Texts are in the user's language: their
-    /// context in a `.ts` file is the class that the file gives its form.
+    /// The form in the bundle's resource "name.ui", a `Form`, which the caller owns. Texts are in the user's language:
+    /// their context in a `.ts` file is the class that the file gives its form.
     ///
-    /// Throws `platform::InvalidArgumentException`, naming the file, when it is not there or cannot be read, and when a
-    /// class in it is neither one of Qt's nor registered.
-    static std::unique_ptr<QWidget> load(const platform::Bundle &bundle, const QString &name);
+    /// Throws `platform::InvalidArgumentException`, naming the file, when it is not there or cannot be read, when it
+    /// holds something else than a `Form`, and when a class in it is neither one of Qt's nor registered.
+    template <typename Form = QWidget>
+    static std::unique_ptr<Form> load(const platform::Bundle &bundle, const QString &name)
+    {
+        return std::unique_ptr<Form>(static_cast<Form *>(loadForm(bundle, name, Form::staticMetaObject).release()));
+    }
 
     /// The object of this name in a form, or the form itself. Throws `platform::InvalidArgumentException` when there is
     /// none of this name and type.
@@ -76,6 +80,8 @@ public:
     }
 
 private:
+    static std::unique_ptr<QWidget> loadForm(const platform::Bundle &bundle, const QString &name,
+                                             const QMetaObject &type);
     [[noreturn]] static void throwMissingOutlet(const QWidget &form, const QString &objectName,
                                                 const QMetaObject &type);
 };
