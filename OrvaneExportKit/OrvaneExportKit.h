@@ -18,6 +18,7 @@
 #include <OrvaneExportKit/platform/KeyedObject.h>
 #include <OrvaneExportKit/platform/KeyedUnarchiver.h>
 #include <OrvaneExportKit/platform/LineRanges.h>
+#include <OrvaneExportKit/platform/NotificationCenter.h>
 #include <OrvaneExportKit/platform/OpenPanel.h>
 #include <OrvaneExportKit/platform/Paths.h>
 #include <OrvaneExportKit/platform/PropertyList.h>
@@ -28,6 +29,7 @@
 #include <OrvaneExportKit/platform/UserDefaults.h>
 #include <OrvaneExportKit/platform/ValueTransformer.h>
 #include <OrvaneExportKit/run/ArchivedContent.h>
+#include <OrvaneExportKit/run/AbortFlag.h>
 #include <OrvaneExportKit/run/ExportDocument.h>
 #include <OrvaneExportKit/run/ExportPlugin.h>
 #include <OrvaneExportKit/run/FileNameChecks.h>
