@@ -10,6 +10,7 @@
 #include <OrvaneExportKit/platform/CalendarFormat.h>
 #include <OrvaneExportKit/platform/ErrorAlert.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/platform/KeyPaths.h>
 #include <OrvaneExportKit/platform/LineRanges.h>
 #include <OrvaneExportKit/platform/OpenPanel.h>
 #include <OrvaneExportKit/platform/Paths.h>
