@@ -14,6 +14,7 @@
 #include <OrvaneExportKit/platform/ErrorAlert.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/platform/GeometryStrings.h>
+#include <OrvaneExportKit/platform/KeyPaths.h>
 #include <OrvaneExportKit/platform/KeyedArchiver.h>
 #include <OrvaneExportKit/platform/KeyedObject.h>
 #include <OrvaneExportKit/platform/KeyedUnarchiver.h>
@@ -28,8 +29,8 @@
 #include <OrvaneExportKit/platform/Translations.h>
 #include <OrvaneExportKit/platform/UserDefaults.h>
 #include <OrvaneExportKit/platform/ValueTransformer.h>
-#include <OrvaneExportKit/run/ArchivedContent.h>
 #include <OrvaneExportKit/run/AbortFlag.h>
+#include <OrvaneExportKit/run/ArchivedContent.h>
 #include <OrvaneExportKit/run/ExportDocument.h>
 #include <OrvaneExportKit/run/ExportPlugin.h>
 #include <OrvaneExportKit/run/FileNameChecks.h>
