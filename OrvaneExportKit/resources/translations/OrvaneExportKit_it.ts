@@ -43,6 +43,19 @@
     </message>
 </context>
 <context>
+    <name>KZPageView</name>
+    <message>
+        <source>Page preview</source>
+        <extracomment>What a screen reader calls the picture of a page.</extracomment>
+        <translation>Anteprima della pagina</translation>
+    </message>
+    <message>
+        <source>Page %1; margins: top %2, left %3, right %4, bottom %5</source>
+        <extracomment>Read out by a screen reader. %1 is the size of the paper as in &quot;21.00 cm x 29.70 cm&quot;, the others are lengths as in &quot;2.54 cm&quot;.</extracomment>
+        <translation>Pagina %1; margini: superiore %2, sinistro %3, destro %4, inferiore %5</translation>
+    </message>
+</context>
+<context>
     <name>Localizable</name>
     <message>
         <source>Level</source>
