@@ -4,12 +4,19 @@
 /// Everything that a plug-in needs, in one include.
 
 #include <OrvaneExportKit/controls/ValueTransformers.h>
+#include <OrvaneExportKit/platform/ArchivedClass.h>
+#include <OrvaneExportKit/platform/ArchivedTypes.h>
 #include <OrvaneExportKit/platform/Archiver.h>
 #include <OrvaneExportKit/platform/AttributedString.h>
 #include <OrvaneExportKit/platform/Bundle.h>
 #include <OrvaneExportKit/platform/CalendarFormat.h>
+#include <OrvaneExportKit/platform/Coder.h>
 #include <OrvaneExportKit/platform/ErrorAlert.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/platform/GeometryStrings.h>
+#include <OrvaneExportKit/platform/KeyedArchiver.h>
+#include <OrvaneExportKit/platform/KeyedObject.h>
+#include <OrvaneExportKit/platform/KeyedUnarchiver.h>
 #include <OrvaneExportKit/platform/LineRanges.h>
 #include <OrvaneExportKit/platform/OpenPanel.h>
 #include <OrvaneExportKit/platform/Paths.h>
@@ -20,6 +27,7 @@
 #include <OrvaneExportKit/platform/Translations.h>
 #include <OrvaneExportKit/platform/UserDefaults.h>
 #include <OrvaneExportKit/platform/ValueTransformer.h>
+#include <OrvaneExportKit/run/ArchivedContent.h>
 #include <OrvaneExportKit/run/ExportDocument.h>
 #include <OrvaneExportKit/run/ExportPlugin.h>
 #include <OrvaneExportKit/run/FileNameChecks.h>

@@ -1,17 +1,22 @@
 #include <OrvaneExportKit/platform/Archiver.h>
 
+#include <OrvaneExportKit/platform/TypeCodes.h>
+
 #include <QtCore/QDataStream>
 #include <QtCore/QIODevice>
 
+#include <algorithm>
+#include <array>
+#include <cstring>
 #include <new>
 
 namespace platform {
 
 namespace {
 
-// An archive is the magic number, the version, the length of the rest, and a value. A value is a kind and: for a list
-// its count and values, for a map its count and pairs of key and value, for any other its type's name and its streamed
-// bytes.
+// An archive is the magic number, the version, the length of the rest, and the fields. A field is a kind and: for a
+// list its count and values, for a map its count and pairs of key and value, for a typed value its type code and its
+// bytes, for any other its type's name and its streamed bytes.
 constexpr quint32 magicNumber = 0x4F454B41;
 constexpr quint16 archiveVersion = 1;
 constexpr auto streamVersion = QDataStream::Qt_6_4;
@@ -21,6 +26,8 @@ enum class Kind : quint8 {
     Other,
     List,
     Map,
+    Nothing,
+    Typed,
 };
 
 /// Whether values of the type can hold values of any type, which would bring back the nesting that is limited here.
@@ -29,15 +36,34 @@ bool holdsAnything(const QByteArray &typeName)
     return typeName.contains("QVariant");
 }
 
-class Writer
+/// Archives have the least significant byte first, whatever the machine does.
+void toArchiveOrder(char *bytes, std::size_t size)
+{
+    if constexpr (Q_BYTE_ORDER == Q_BIG_ENDIAN) {
+        std::reverse(bytes, bytes + size);
+    }
+}
+
+} // namespace
+
+class Archiver::Writer
 {
 public:
-    explicit Writer(QByteArray &data) : m_stream(&data, QIODevice::WriteOnly) { m_stream.setVersion(streamVersion); }
+    Writer() : m_stream(&m_data, QIODevice::WriteOnly) { m_stream.setVersion(streamVersion); }
+
+    const QByteArray &data() const { return m_data; }
+
+    void append(const Writer &other)
+    {
+        m_stream.writeRawData(other.m_data.constData(), static_cast<int>(other.m_data.size()));
+    }
+
+    void writeNothing() { m_stream << quint8(Kind::Nothing); }
 
     void write(const QVariant &value, int depth = 0)
     {
         if (depth > maximumNesting) {
-            throw InvalidArgumentException("archivedDataWithRootObject: lists and maps are nested more than 512 deep");
+            throw InvalidArgumentException("encodeObject: lists and maps are nested more than 512 deep");
         }
         if (value.metaType() == QMetaType::fromType<QVariantList>()) {
             writeList(value.toList(), depth);
@@ -46,6 +72,12 @@ public:
         } else {
             writeOther(value);
         }
+    }
+
+    void writeTyped(char code, const char *bytes, std::size_t size)
+    {
+        m_stream << quint8(Kind::Typed) << qint8(code);
+        m_stream.writeRawData(bytes, static_cast<int>(size));
     }
 
 private:
@@ -72,68 +104,103 @@ private:
         QDataStream stream(&bytes, QIODevice::WriteOnly);
         stream.setVersion(streamVersion);
         if (!value.isValid() || holdsAnything(value.typeName()) || !value.metaType().save(stream, value.constData())) {
-            throw InvalidArgumentException(std::string("archivedDataWithRootObject: a value of type ") +
+            throw InvalidArgumentException(std::string("encodeObject: a value of type ") +
                                            (value.isValid() ? value.typeName() : "nothing") + " cannot be archived");
         }
         m_stream << quint8(Kind::Other) << QByteArray(value.typeName()) << bytes;
     }
 
+    QByteArray m_data;
     QDataStream m_stream;
 };
 
-/// Reads what `Writer` wrote. Whatever the data claims, a count is believed only as far as bytes are left for it.
-class Reader
+/// Whatever the data claims, a count is believed only as far as bytes are left for it.
+class Unarchiver::Reader
 {
 public:
-    explicit Reader(const QByteArray &data) : m_stream(data) { m_stream.setVersion(streamVersion); }
-
-    QVariant readArchive()
+    explicit Reader(const QByteArray &data) : m_stream(data)
     {
+        m_stream.setVersion(streamVersion);
         quint32 magic = 0;
         quint16 version = 0;
         quint64 length = 0;
         m_stream >> magic >> version >> length;
         if (magic != magicNumber || version != archiveVersion || length != bytesLeft()) {
-            return {};
+            throw ArchiveException("Unarchiver: the data is not a whole archive");
         }
-        QVariant value = read(0);
-        return m_failed || m_stream.status() != QDataStream::Ok || !m_stream.atEnd() ? QVariant() : value;
+    }
+
+    bool atEnd() const { return m_stream.atEnd(); }
+
+    QVariant read(const char *operation)
+    {
+        m_operation = operation;
+        try {
+            const Kind kind = readKind();
+            return kind == Kind::Nothing ? QVariant() : readValue(kind, 0);
+        } catch (const std::bad_alloc &) {
+            fail("a value claims a size that it does not have"); // to a stream operator of Qt's own
+        }
+    }
+
+    void readTyped(char code, char *bytes, std::size_t size)
+    {
+        m_operation = "decodeValueOfObjCType";
+        qint8 foundCode = 0;
+        if (readKind() != Kind::Typed) {
+            fail("here stands an object");
+        }
+        m_stream >> foundCode;
+        if (foundCode != code) {
+            fail(std::string("here stands a value of type code `") + static_cast<char>(foundCode) + "`");
+        }
+        if (m_stream.readRawData(bytes, static_cast<int>(size)) != static_cast<int>(size)) {
+            fail("the archive ends inside a value");
+        }
     }
 
 private:
-    quint64 bytesLeft() const { return static_cast<quint64>(m_stream.device()->bytesAvailable()); }
-
-    QVariant failure()
+    [[noreturn]] void fail(const std::string &complaint) const
     {
-        m_failed = true;
-        return {};
+        throw ArchiveException(std::string(m_operation) + ": " + complaint);
     }
 
-    QVariant read(int depth)
+    quint64 bytesLeft() const { return static_cast<quint64>(m_stream.device()->bytesAvailable()); }
+
+    Kind readKind()
     {
         quint8 kind = 0;
         m_stream >> kind;
-        if (m_stream.status() != QDataStream::Ok || depth > maximumNesting) {
-            return failure();
+        requireSound();
+        return Kind(kind);
+    }
+
+    QVariant readValue(Kind kind, int depth)
+    {
+        if (depth > maximumNesting) {
+            fail("lists and maps are nested more than 512 deep");
         }
-        switch (Kind(kind)) {
+        switch (kind) {
         case Kind::Other:
             return readOther();
         case Kind::List:
             return readList(depth);
         case Kind::Map:
             return readMap(depth);
+        case Kind::Nothing:
+        case Kind::Typed:
+            break;
         }
-        return failure();
+        fail("here stands no object");
     }
 
     quint64 readCount()
     {
         quint64 count = 0;
         m_stream >> count;
+        requireSound();
         if (count > bytesLeft()) {
-            m_failed = true;
-            return 0;
+            fail("a count goes beyond the end of the archive");
         }
         return count;
     }
@@ -141,8 +208,8 @@ private:
     QVariant readList(int depth)
     {
         QVariantList list;
-        for (quint64 count = readCount(); count > 0 && !m_failed; --count) {
-            list.append(read(depth + 1));
+        for (quint64 count = readCount(); count > 0; --count) {
+            list.append(readValue(readKind(), depth + 1));
         }
         return list;
     }
@@ -150,10 +217,10 @@ private:
     QVariant readMap(int depth)
     {
         QVariantMap map;
-        for (quint64 count = readCount(); count > 0 && !m_failed; --count) {
+        for (quint64 count = readCount(); count > 0; --count) {
             QString key;
             m_stream >> key;
-            map.insert(key, read(depth + 1));
+            map.insert(key, readValue(readKind(), depth + 1));
         }
         return map;
     }
@@ -163,43 +230,121 @@ private:
         QByteArray typeName;
         QByteArray bytes;
         m_stream >> typeName >> bytes;
+        requireSound();
         const QMetaType type = QMetaType::fromName(typeName);
-        if (m_stream.status() != QDataStream::Ok || !type.isValid() || holdsAnything(typeName)) {
-            return failure();
+        if (!type.isValid() || holdsAnything(typeName)) {
+            fail("the type `" + typeName.toStdString() + "` is not known");
         }
         QVariant value(type);
         QDataStream stream(bytes);
         stream.setVersion(streamVersion);
         if (!type.load(stream, value.data()) || stream.status() != QDataStream::Ok || !stream.atEnd()) {
-            return failure();
+            fail("a value of type `" + typeName.toStdString() + "` is malformed");
         }
         return value;
     }
 
-    QDataStream m_stream;
-    bool m_failed = false;
-};
+    void requireSound() const
+    {
+        if (m_stream.status() != QDataStream::Ok) {
+            fail("the archive ends too early");
+        }
+    }
 
-} // namespace
+    QDataStream m_stream;
+    const char *m_operation = "";
+};
 
 QByteArray Archiver::archivedDataWithRootObject(const QVariant &object)
 {
-    QByteArray value;
-    Writer(value).write(object);
+    if (!object.isValid()) {
+        throw InvalidArgumentException("archivedDataWithRootObject: there is no object");
+    }
+    Archiver archiver;
+    archiver.encodeObject(object);
+    return archiver.archivedData();
+}
+
+Archiver::Archiver() : m_writer(std::make_unique<Writer>())
+{
+}
+
+Archiver::~Archiver() = default;
+
+QByteArray Archiver::archivedData() const
+{
     QByteArray archive;
     QDataStream stream(&archive, QIODevice::WriteOnly);
     stream.setVersion(streamVersion);
-    stream << magicNumber << archiveVersion << quint64(value.size());
-    return archive + value;
+    stream << magicNumber << archiveVersion << quint64(m_writer->data().size());
+    return archive + m_writer->data();
+}
+
+bool Archiver::allowsKeyedCoding() const
+{
+    return false;
+}
+
+void Archiver::encodeObject(const QVariant &object)
+{
+    Writer field; // so that one that fails leaves nothing
+    if (object.isValid()) {
+        field.write(object);
+    } else {
+        field.writeNothing();
+    }
+    m_writer->append(field);
+}
+
+void Archiver::encodeValueOfObjCType(const char *type, const void *address)
+{
+    withTypeOfCode("encodeValueOfObjCType", type, [&]<typename Value>(std::type_identity<Value>) {
+        std::array<char, sizeof(Value)> bytes;
+        std::memcpy(bytes.data(), address, bytes.size());
+        toArchiveOrder(bytes.data(), bytes.size());
+        m_writer->writeTyped(type[0], bytes.data(), bytes.size());
+    });
 }
 
 QVariant Unarchiver::unarchiveObjectWithData(const QByteArray &data)
 {
     try {
-        return Reader(data).readArchive();
-    } catch (const std::bad_alloc &) {
-        return {}; // a type of Qt's own believed a size inside its bytes
+        Reader reader(data);
+        QVariant value = reader.read("unarchiveObjectWithData");
+        return reader.atEnd() ? value : QVariant();
+    } catch (const ArchiveException &) {
+        return {};
     }
+}
+
+Unarchiver::Unarchiver(const QByteArray &data) : m_reader(std::make_unique<Reader>(data))
+{
+}
+
+Unarchiver::~Unarchiver() = default;
+
+bool Unarchiver::allowsKeyedCoding() const
+{
+    return false;
+}
+
+QVariant Unarchiver::decodeObject()
+{
+    return m_reader->read("decodeObject");
+}
+
+void Unarchiver::decodeValueOfObjCType(const char *type, void *address)
+{
+    withTypeOfCode("decodeValueOfObjCType", type, [&]<typename Value>(std::type_identity<Value>) {
+        std::array<char, sizeof(Value)> bytes;
+        m_reader->readTyped(type[0], bytes.data(), bytes.size());
+        toArchiveOrder(bytes.data(), bytes.size());
+        if constexpr (std::is_same_v<Value, bool>) {
+            *static_cast<bool *>(address) = bytes[0] != 0;
+        } else {
+            std::memcpy(address, bytes.data(), bytes.size());
+        }
+    });
 }
 
 } // namespace platform

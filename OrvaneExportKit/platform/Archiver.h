@@ -1,10 +1,13 @@
 #pragma once
 
 #include <OrvaneExportKit/ExportMacros.h>
+#include <OrvaneExportKit/platform/Coder.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
 
 #include <QtCore/QByteArray>
 #include <QtCore/QVariant>
+
+#include <memory>
 
 /// \file
 /// The non-keyed archive, in which settings keep values that are not property-list values: fonts, colours, sizes and
@@ -13,19 +16,59 @@
 
 namespace platform {
 
-struct ORVANE_CORE_EXPORT Archiver {
-    /// The archive of a value. Throws `InvalidArgumentException` when the value, or one inside it, is nothing, is of a
-    /// type without stream operators, or is of another container of `QVariant` than a list or a map; and when lists and
-    /// maps are nested more than 512 deep.
+/// Writes a non-keyed archive: fields without names, one behind the other.
+///
+///     Archiver archiver;
+///     view.encodeWithCoder(archiver);
+///     const QByteArray data = archiver.archivedData();
+///
+/// Writing throws `InvalidArgumentException` when a value, or one inside it, is of a type without stream operators or
+/// of another container of `QVariant` than a list or a map; when lists and maps are nested more than 512 deep; and
+/// when a value inside a list or a map is nothing.
+class ORVANE_CORE_EXPORT Archiver final : public Coder
+{
+public:
+    /// The archive of one value. Throws like `encodeObject`, also when the value is nothing.
     ///
     ///     const QByteArray archive = Archiver::archivedDataWithRootObject(QSize(3, 4));
     static QByteArray archivedDataWithRootObject(const QVariant &object);
+
+    Archiver();
+    ~Archiver() override;
+
+    /// The archive of all that was encoded so far.
+    QByteArray archivedData() const;
+
+    bool allowsKeyedCoding() const override;
+    using Coder::encodeObject;
+    void encodeObject(const QVariant &object) override;
+    void encodeValueOfObjCType(const char *type, const void *address) override;
+
+private:
+    class Writer;
+    std::unique_ptr<Writer> m_writer;
 };
 
-struct ORVANE_CORE_EXPORT Unarchiver {
-    /// The value of an archive. Data that is no such archive, is cut short, goes on behind its end, claims sizes that
-    /// it does not have or holds a type that this program does not know gives an invalid `QVariant`.
+/// Reads a non-keyed archive, field by field in the order of writing.
+class ORVANE_CORE_EXPORT Unarchiver final : public Coder
+{
+public:
+    /// The value of an archive of one value. Data that is no such archive, is cut short, goes on behind its end, claims
+    /// sizes that it does not have or holds a type that this program does not know gives an invalid `QVariant`.
     static QVariant unarchiveObjectWithData(const QByteArray &data);
+
+    /// Opens an archive. Throws `ArchiveException` when the data is none; so do the operations that find another field
+    /// than they are asked for, none any more, or a broken one.
+    explicit Unarchiver(const QByteArray &data);
+    ~Unarchiver() override;
+
+    bool allowsKeyedCoding() const override;
+    QVariant decodeObject() override;
+    void decodeValueOfObjCType(const char *type, void *address) override;
+
+private:
+    class Reader;
+    std::unique_ptr<Reader> m_reader;
 };
 
 } // namespace platform

@@ -82,6 +82,26 @@ AttributedString::AttributedString(QString text, const QVariantMap &attributes) 
     }
 }
 
+AttributedString AttributedString::fromStretches(const QString &text, const QList<Stretch> &stretches)
+{
+    AttributedString result;
+    result.m_string = text;
+    std::size_t start = 0;
+    for (const Stretch &stretch : stretches) {
+        if (stretch.length > result.length() - start) {
+            throw InvalidArgumentException("fromStretches: the stretches are longer than the text");
+        }
+        if (stretch.length > 0) {
+            appendRun(result.m_runs, start, stretch.attributes);
+            start += stretch.length;
+        }
+    }
+    if (start < result.length()) {
+        throw InvalidArgumentException("fromStretches: the stretches are shorter than the text");
+    }
+    return result;
+}
+
 QVariantMap AttributedString::attributesAtIndex(std::size_t index, Range *effectiveRange) const
 {
     requireRange("attributesAtIndex", {index, 1}, length());

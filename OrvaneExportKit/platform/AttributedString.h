@@ -28,6 +28,18 @@ struct ORVANE_CORE_EXPORT AttributedString {
     /// A text whose units all carry `attributes`.
     explicit AttributedString(QString text = {}, const QVariantMap &attributes = {});
 
+    /// Some units and the attributes that they all carry.
+    struct Stretch {
+        std::size_t length;
+        QVariantMap attributes;
+    };
+
+    /// A text made of stretches, from its start to its end. Throws `InvalidArgumentException` when their lengths do not
+    /// add up to that of the text.
+    ///
+    ///     AttributedString::fromStretches(u"bold and plain"_s, {{4, {{u"weight"_s, u"bold"_s}}}, {10, {}}});
+    static AttributedString fromStretches(const QString &text, const QList<Stretch> &stretches);
+
     /// The plain text, the same units.
     const QString &string() const noexcept { return m_string; }
 

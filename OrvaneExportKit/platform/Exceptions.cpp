@@ -25,6 +25,8 @@ InvalidArgumentException::~InvalidArgumentException() = default;
 
 UnrecognisedOperationException::~UnrecognisedOperationException() = default;
 
+ArchiveException::~ArchiveException() = default;
+
 void requireRange(const char *operation, Range range, std::size_t textLength)
 {
     if (!range.fits(textLength)) {

@@ -54,6 +54,14 @@ public:
     ~UnrecognisedOperationException() override;
 };
 
+/// An archive is malformed, or holds something else than was asked of it. The sentence names the place in the archive.
+class ORVANE_CORE_EXPORT ArchiveException : public Exception
+{
+public:
+    using Exception::Exception;
+    ~ArchiveException() override;
+};
+
 /// Throws a `RangeException` unless `range` lies inside a text of `textLength` units.
 ORVANE_CORE_EXPORT void requireRange(const char *operation, Range range, std::size_t textLength);
 

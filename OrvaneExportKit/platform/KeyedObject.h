@@ -1,0 +1,64 @@
+#pragma once
+
+#include <OrvaneExportKit/ExportMacros.h>
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QVariant>
+
+#include <memory>
+
+namespace platform {
+
+class KeyedArchive;
+
+/// An object of a keyed archive whose class is not known here: its class names and its fields, as they stand.
+///
+///     const auto note = KeyedUnarchiver::unarchiveObjectWithData(data).value<KeyedObject>();
+///     if (note.className() == u"Note") {
+///         show(note.value(u"title"_s).toString());
+///     }
+///
+/// A small value that refers to the archive, which it keeps in memory; the fields are decoded when they are asked for.
+/// Objects may refer to each other in circles. Two are equal when they are the same object of the same archive.
+class ORVANE_CORE_EXPORT KeyedObject
+{
+public:
+    /// No object: without name and fields.
+    KeyedObject();
+    KeyedObject(const KeyedObject &);
+    KeyedObject &operator=(const KeyedObject &);
+    ~KeyedObject();
+
+    bool isNull() const { return m_archive == nullptr; }
+
+    QString className() const;
+
+    /// The name of the class, then those of its superclasses, nearest first, as far as the archive holds them.
+    QStringList classNames() const;
+
+    /// The names of all fields as they stand in the archive, sorted. Archives write fields without a name as `$0`, `$1`
+    /// ..., and double the `$` that a name begins with.
+    QStringList keys() const;
+
+    bool containsValueForKey(const QString &key) const;
+
+    /// The value of a field: an object as `KeyedUnarchiver` decodes it, a plain value that stands in the field, or a
+    /// list or map of such. Invalid for a field that is missing or refers to no object.
+    ///
+    /// Never fails for objects that `KeyedUnarchiver` handed out as the root or inside it: it has decoded all of them
+    /// once before it returns. The exception is a decoder that throws later though it did not at first.
+    QVariant value(const QString &key) const;
+
+    friend bool operator==(const KeyedObject &, const KeyedObject &) = default;
+
+private:
+    friend class KeyedDecoder;
+    friend class KeyedEncoder;
+    KeyedObject(std::shared_ptr<const KeyedArchive> archive, quint32 index);
+
+    std::shared_ptr<const KeyedArchive> m_archive;
+    quint32 m_index = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,216 @@
+#include <OrvaneExportKit/platform/KeyedScalars.h>
+
+#include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/platform/GeometryStrings.h>
+#include <OrvaneExportKit/platform/KeyedFieldReader.h>
+#include <OrvaneExportKit/platform/KeyedFieldWriter.h>
+#include <OrvaneExportKit/platform/Range.h>
+
+#include <QtCore/QDateTime>
+#include <QtCore/QMarginsF>
+#include <QtCore/QStringConverter>
+#include <QtCore/QTimeZone>
+#include <QtCore/QUrl>
+#include <QtCore/QUuid>
+
+#include <cmath>
+
+namespace platform {
+
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+constexpr qint64 millisecondsTo2001 = 978307200000;
+constexpr double furthestSecond = 9e15; // 285 million years, which milliseconds in 64 bits can count
+constexpr qsizetype uuidSize = 16;
+
+/// What `NS.special` of a boxed value says of its kind.
+enum Special : qint64 {
+    Point = 1,
+    Size = 2,
+    Rectangle = 3,
+    RangeOfUnits = 4,
+    EdgeInsets = 12,
+};
+
+template <typename Geometry, typename Parse>
+QVariant decodeGeometryString(KeyedFieldReader &reader, const QString &key, Parse parse)
+{
+    const std::optional<Geometry> geometry = parse(reader.objectForKey<QString>(key, u"a string"));
+    if (!geometry) {
+        reader.fail(u"`%1` does not hold the numbers that it should, as in `{1, 2}`"_s.arg(key));
+    }
+    return *geometry;
+}
+
+std::size_t rangeMember(KeyedFieldReader &reader, const QString &key)
+{
+    const QVariant number = reader.decodeObjectForKey(key);
+    if (number.metaType() == QMetaType::fromType<quint64>()) {
+        return number.toULongLong();
+    }
+    if (number.metaType() != QMetaType::fromType<qint64>() || number.toLongLong() < 0) {
+        reader.fail(u"`%1` is no integer of 0 or more"_s.arg(key));
+    }
+    return number.toULongLong();
+}
+
+} // namespace
+
+QVariant decodeString(KeyedFieldReader &reader)
+{
+    if (!reader.containsValueForKey(u"NS.bytes"_s)) {
+        return reader.stringForKey(u"NS.string"_s);
+    }
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    QString string = decoder(reader.decodeBytesForKey(u"NS.bytes"_s));
+    if (decoder.hasError()) {
+        reader.fail(u"`NS.bytes` is not UTF-8"_s);
+    }
+    return string;
+}
+
+QVariant decodeNumber(KeyedFieldReader &reader)
+{
+    if (reader.containsValueForKey(u"NS.boolval"_s)) {
+        return reader.decodeBoolForKey(u"NS.boolval"_s);
+    }
+    if (reader.containsValueForKey(u"NS.dblval"_s)) {
+        return reader.decodeDoubleForKey(u"NS.dblval"_s);
+    }
+    const QString key = reader.containsValueForKey(u"NS.intval"_s) ? u"NS.intval"_s : u"NS.number"_s;
+    if (!reader.containsValueForKey(key)) {
+        reader.fail(u"`NS.number` is missing"_s);
+    }
+    return reader.numberForKey(key);
+}
+
+QVariant decodeNull(KeyedFieldReader & /*reader*/)
+{
+    return QVariant::fromValue(nullptr);
+}
+
+QVariant decodeData(KeyedFieldReader &reader)
+{
+    return reader.decodeBytesForKey(reader.containsValueForKey(u"NS.data"_s) ? u"NS.data"_s : u"NS.bytes"_s);
+}
+
+QVariant decodeDate(KeyedFieldReader &reader)
+{
+    const double seconds = reader.decodeDoubleForKey(u"NS.time"_s);
+    if (!(std::abs(seconds) <= furthestSecond)) {
+        reader.fail(u"`NS.time` is no time"_s);
+    }
+    return QDateTime::fromMSecsSinceEpoch(std::llround(seconds * 1000) + millisecondsTo2001, QTimeZone::utc());
+}
+
+QVariant decodeUrl(KeyedFieldReader &reader)
+{
+    const QString relative = reader.objectForKey<QString>(u"NS.relative"_s, u"a string");
+    QUrl url(relative);
+    if (!url.isValid() && !relative.isEmpty()) {
+        reader.fail(u"`NS.relative` is no URL"_s);
+    }
+    const QVariant base = reader.decodeObjectForKey(u"NS.base"_s);
+    if (!base.isValid()) {
+        return url;
+    }
+    if (base.metaType() != QMetaType::fromType<QUrl>()) {
+        reader.fail(u"`NS.base` is no URL"_s);
+    }
+    return base.toUrl().resolved(url);
+}
+
+QVariant decodeUuid(KeyedFieldReader &reader)
+{
+    const QString key = reader.containsValueForKey(u"NS.uuidbytes"_s) ? u"NS.uuidbytes"_s : u"uuid"_s;
+    const QByteArray bytes = reader.decodeBytesForKey(key);
+    if (bytes.size() != uuidSize) {
+        reader.fail(u"`%1` has %2 bytes, not %3"_s.arg(key).arg(bytes.size()).arg(uuidSize));
+    }
+    return QUuid::fromRfc4122(bytes);
+}
+
+QVariant decodeGeometry(KeyedFieldReader &reader)
+{
+    switch (reader.decodeInt64ForKey(u"NS.special"_s)) {
+    case Point:
+        return decodeGeometryString<QPointF>(reader, u"NS.pointval"_s, pointFromString);
+    case Size:
+        return decodeGeometryString<QSizeF>(reader, u"NS.sizeval"_s, sizeFromString);
+    case Rectangle:
+        return decodeGeometryString<QRectF>(reader, u"NS.rectval"_s, rectangleFromString);
+    case RangeOfUnits:
+        return QVariant::fromValue(
+            Range{rangeMember(reader, u"NS.rangeval.location"_s), rangeMember(reader, u"NS.rangeval.length"_s)});
+    case EdgeInsets:
+        return QVariant::fromValue(QMarginsF(
+            reader.decodeDoubleForKey(u"NS.edgeval.left"_s), reader.decodeDoubleForKey(u"NS.edgeval.top"_s),
+            reader.decodeDoubleForKey(u"NS.edgeval.right"_s), reader.decodeDoubleForKey(u"NS.edgeval.bottom"_s)));
+    default:
+        return {};
+    }
+}
+
+void encodeNull(const QVariant & /*value*/, KeyedFieldWriter & /*writer*/)
+{
+}
+
+void encodeDate(const QVariant &value, KeyedFieldWriter &writer)
+{
+    const QDateTime date = value.toDateTime();
+    if (!date.isValid()) {
+        throw InvalidArgumentException("encodeObject: a date is not valid");
+    }
+    writer.encodeDouble(static_cast<double>(date.toMSecsSinceEpoch() - millisecondsTo2001) / 1000, u"NS.time"_s);
+}
+
+void encodeUrl(const QVariant &value, KeyedFieldWriter &writer)
+{
+    writer.encodeObject(QVariant(), u"NS.base"_s);
+    writer.encodeObject(value.toUrl().toString(QUrl::FullyEncoded), u"NS.relative"_s);
+}
+
+void encodeUuid(const QVariant &value, KeyedFieldWriter &writer)
+{
+    writer.encodeBytes(value.toUuid().toRfc4122(), u"NS.uuidbytes"_s);
+}
+
+void encodePoint(const QVariant &value, KeyedFieldWriter &writer)
+{
+    writer.encodeInt64(Point, u"NS.special"_s);
+    writer.encodeObject(stringFromPoint(value.toPointF()), u"NS.pointval"_s);
+}
+
+void encodeSize(const QVariant &value, KeyedFieldWriter &writer)
+{
+    writer.encodeInt64(Size, u"NS.special"_s);
+    writer.encodeObject(stringFromSize(value.toSizeF()), u"NS.sizeval"_s);
+}
+
+void encodeRectangle(const QVariant &value, KeyedFieldWriter &writer)
+{
+    writer.encodeInt64(Rectangle, u"NS.special"_s);
+    writer.encodeObject(stringFromRectangle(value.toRectF()), u"NS.rectval"_s);
+}
+
+void encodeRange(const QVariant &value, KeyedFieldWriter &writer)
+{
+    const auto range = value.value<Range>();
+    writer.encodeInt64(RangeOfUnits, u"NS.special"_s);
+    writer.encodeObject(quint64{range.location}, u"NS.rangeval.location"_s);
+    writer.encodeObject(quint64{range.length}, u"NS.rangeval.length"_s);
+}
+
+void encodeEdgeInsets(const QVariant &value, KeyedFieldWriter &writer)
+{
+    const auto insets = value.value<QMarginsF>();
+    writer.encodeInt64(EdgeInsets, u"NS.special"_s);
+    writer.encodeDouble(insets.top(), u"NS.edgeval.top"_s);
+    writer.encodeDouble(insets.left(), u"NS.edgeval.left"_s);
+    writer.encodeDouble(insets.bottom(), u"NS.edgeval.bottom"_s);
+    writer.encodeDouble(insets.right(), u"NS.edgeval.right"_s);
+}
+
+} // namespace platform

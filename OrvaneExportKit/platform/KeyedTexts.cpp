@@ -1,0 +1,102 @@
+#include <OrvaneExportKit/platform/KeyedTexts.h>
+
+#include <OrvaneExportKit/platform/AttributedString.h>
+#include <OrvaneExportKit/platform/Base128.h>
+#include <OrvaneExportKit/platform/KeyedFieldReader.h>
+#include <OrvaneExportKit/platform/KeyedFieldWriter.h>
+
+namespace platform {
+
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+using Stretches = QList<AttributedString::Stretch>;
+
+QList<QVariantMap> decodeAttributeDictionaries(KeyedFieldReader &reader, const QVariant &attributes)
+{
+    QList<QVariantMap> dictionaries;
+    for (const QVariant &dictionary : attributes.toList()) {
+        if (dictionary.metaType() != QMetaType::fromType<QVariantMap>()) {
+            reader.fail(u"`NSAttributes` holds something that is no dictionary of attributes"_s);
+        }
+        dictionaries.append(dictionary.toMap());
+    }
+    return dictionaries;
+}
+
+/// What the bytes say of each stretch: its length and the index of its attributes.
+Stretches decodeStretches(KeyedFieldReader &reader, const QList<QVariantMap> &dictionaries, std::size_t textLength)
+{
+    const QByteArray data = reader.dataForKey(u"NSAttributeInfo"_s);
+    QByteArrayView bytes = data;
+    Stretches stretches;
+    std::size_t unitsLeft = textLength;
+    while (!bytes.isEmpty()) {
+        const std::optional<quint64> length = takeBase128(bytes);
+        const std::optional<quint64> index = length ? takeBase128(bytes) : std::nullopt;
+        if (!index) {
+            reader.fail(u"`NSAttributeInfo` holds a number that is cut off or too large"_s);
+        }
+        if (*length > unitsLeft) {
+            reader.fail(u"`NSAttributeInfo` goes beyond the %1 units of the text"_s.arg(textLength));
+        }
+        if (*index >= static_cast<quint64>(dictionaries.size())) {
+            reader.fail(u"`NSAttributeInfo` names attributes %1; there are %2"_s.arg(*index).arg(dictionaries.size()));
+        }
+        stretches.append({*length, dictionaries[static_cast<qsizetype>(*index)]});
+        unitsLeft -= *length;
+    }
+    if (unitsLeft > 0) {
+        reader.fail(u"`NSAttributeInfo` ends %1 units before the end of the text"_s.arg(unitsLeft));
+    }
+    return stretches;
+}
+
+} // namespace
+
+QVariant decodeAttributedString(KeyedFieldReader &reader)
+{
+    const auto string = reader.objectForKey<QString>(u"NSString"_s, u"a string");
+    const QVariant attributes = reader.decodeObjectForKey(u"NSAttributes"_s);
+    if (string.isEmpty() || !attributes.isValid()) {
+        return QVariant::fromValue(AttributedString(string));
+    }
+    if (attributes.metaType() == QMetaType::fromType<QVariantMap>()) {
+        return QVariant::fromValue(AttributedString(string, attributes.toMap()));
+    }
+    if (attributes.metaType() != QMetaType::fromType<QVariantList>()) {
+        reader.fail(u"`NSAttributes` is neither a dictionary of attributes nor an array of them"_s);
+    }
+    const auto length = static_cast<std::size_t>(string.size());
+    const Stretches stretches = decodeStretches(reader, decodeAttributeDictionaries(reader, attributes), length);
+    return QVariant::fromValue(AttributedString::fromStretches(string, stretches));
+}
+
+void encodeAttributedString(const QVariant &value, KeyedFieldWriter &writer)
+{
+    const auto text = value.value<AttributedString>();
+    writer.encodeObject(text.string(), u"NSString"_s);
+    QVariantList dictionaries;
+    QHash<quint32, qsizetype> indices;
+    QByteArray stretches;
+    for (Range run; run.end() < text.length();) {
+        const QVariantMap attributes = text.attributesAtIndex(run.end(), &run);
+        const quint32 reference = writer.reference(attributes);
+        const auto known = indices.find(reference);
+        const qsizetype index = known != indices.end() ? *known : *indices.insert(reference, dictionaries.size());
+        if (index == dictionaries.size()) {
+            dictionaries.append(attributes);
+        }
+        appendBase128(stretches, run.length);
+        appendBase128(stretches, static_cast<quint64>(index));
+    }
+    if (dictionaries.size() == 1) {
+        writer.encodeObject(dictionaries.first(), u"NSAttributes"_s);
+    } else if (!dictionaries.isEmpty()) {
+        writer.encodeArray(dictionaries, {u"NSMutableArray"_s, u"NSArray"_s, u"NSObject"_s}, u"NSAttributes"_s);
+        writer.encodeObject(stretches, u"NSAttributeInfo"_s);
+    }
+}
+
+} // namespace platform
