@@ -1,14 +1,18 @@
 #include <OrvaneExportKit/controls/KZPageView.h>
 
+#include <OrvaneExportKit/platform/ArchivedClass.h>
 #include <OrvaneExportKit/settings/MeasurementUnits.h>
+#include <OrvaneExportKit/windowing/ArchivedViews.h>
 #include <OrvaneExportKit/windowing/Frames.h>
 #include <OrvaneExportKit/windowing/PrintInfo.h>
 
 #include <QtCore/QLocale>
 #include <QtGui/QPainter>
 #include <QtWidgets/QAccessibleWidget>
+#include <QtWidgets/QApplication>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
@@ -56,6 +60,29 @@ QAccessibleInterface *accessiblePageView(const QString & /*className*/, QObject 
     return view == nullptr ? nullptr : new AccessiblePageView(view);
 }
 
+/// The six items of an archive without keys. Those of the size are the first four bytes of its 64-bit numbers, not
+/// narrowed numbers: that is the layout of such archives, although it does not keep the size.
+std::array<void *, 6> nonKeyedItems(QSizeF &paperSize, windowing::PageMargins &margins)
+{
+    return {&paperSize.rwidth(), &paperSize.rheight(), &margins.top, &margins.left, &margins.right, &margins.bottom};
+}
+
+void registerClass()
+{
+    if (qobject_cast<QApplication *>(QCoreApplication::instance()) == nullptr) {
+        return;
+    }
+    static const platform::ArchivedClassRegistration pageView(
+        {{u"KZPageView"_s, u"NSView"_s, u"NSResponder"_s, u"NSObject"_s},
+         QMetaType::fromType<KZPageView *>(),
+         [](const QVariant &view, platform::Coder &coder) { view.value<KZPageView *>()->encodeWithCoder(coder); },
+         [](platform::Coder &coder) {
+             return QVariant::fromValue(KZPageView::initWithCoder(coder).release());
+         }});
+    QAccessible::installFactory(accessiblePageView);
+}
+Q_COREAPP_STARTUP_FUNCTION(registerClass)
+
 /// Margins and paper sizes without sense give numbers that cannot be drawn.
 bool isDrawable(const QRectF &rectangle)
 {
@@ -81,10 +108,6 @@ void fillSharply(QPainter &painter, const QRectF &rectangle, const QColor &color
 KZPageView::KZPageView(QWidget *parent)
     : QWidget(parent), m_paperSize(windowing::PrintInfo::sharedPrintInfo().paperSize())
 {
-    [[maybe_unused]] static const bool installed = [] {
-        QAccessible::installFactory(accessiblePageView);
-        return true;
-    }();
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
 
@@ -94,6 +117,46 @@ std::unique_ptr<KZPageView> KZPageView::initWithFrame(const QRectF &frame)
     auto view = std::make_unique<KZPageView>();
     view->setFrame(frame.adjusted(-growth, -growth, growth, growth));
     return view;
+}
+
+std::unique_ptr<KZPageView> KZPageView::initWithCoder(platform::Coder &coder)
+{
+    auto view = std::make_unique<KZPageView>();
+    windowing::decodeView(*view, coder);
+    windowing::PageMargins &margins = view->m_margins;
+    if (coder.allowsKeyedCoding()) {
+        const float width = coder.decodeFloatForKey(u"width"_s);
+        view->m_paperSize = QSizeF(width, coder.decodeFloatForKey(u"height"_s));
+        margins.top = coder.decodeFloatForKey(u"topMargin"_s);
+        margins.left = coder.decodeFloatForKey(u"leftMargin"_s);
+        margins.right = coder.decodeFloatForKey(u"rightMargin"_s);
+        margins.bottom = coder.decodeFloatForKey(u"bottomMargin"_s);
+        return view;
+    }
+    view->m_paperSize = QSizeF(0.0, 0.0);
+    for (void *item : nonKeyedItems(view->m_paperSize, margins)) {
+        coder.decodeValueOfObjCType("f", item);
+    }
+    return view;
+}
+
+void KZPageView::encodeWithCoder(platform::Coder &coder) const
+{
+    windowing::encodeView(*this, coder);
+    if (coder.allowsKeyedCoding()) {
+        coder.encodeFloat(static_cast<float>(m_paperSize.width()), u"width"_s);
+        coder.encodeFloat(static_cast<float>(m_paperSize.height()), u"height"_s);
+        coder.encodeFloat(m_margins.top, u"topMargin"_s);
+        coder.encodeFloat(m_margins.left, u"leftMargin"_s);
+        coder.encodeFloat(m_margins.right, u"rightMargin"_s);
+        coder.encodeFloat(m_margins.bottom, u"bottomMargin"_s);
+        return;
+    }
+    QSizeF paperSize = m_paperSize;
+    windowing::PageMargins margins = m_margins;
+    for (const void *item : nonKeyedItems(paperSize, margins)) {
+        coder.encodeValueOfObjCType("f", item);
+    }
 }
 
 QStringList KZPageView::exposedBindings()

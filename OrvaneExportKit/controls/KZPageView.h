@@ -2,6 +2,7 @@
 
 #include <OrvaneExportKit/ExportMacros.h>
 #include <OrvaneExportKit/controls/PageDrawing.h>
+#include <OrvaneExportKit/platform/Coder.h>
 
 #include <QtWidgets/QWidget>
 
@@ -34,6 +35,18 @@ public:
 
     /// The same in a frame 5 units larger on every side, made square: 90 x 120 at (10, 10) gives 100 x 100 at (5, 5).
     static std::unique_ptr<KZPageView> initWithFrame(const QRectF &frame);
+
+    /// The view that `encodeWithCoder` wrote, in the frame that it had then. Throws what the coder throws.
+    static std::unique_ptr<KZPageView> initWithCoder(platform::Coder &coder);
+
+    /// Writes the fields of the view (see `windowing::encodeView`), then the size and the margins as 32-bit floats:
+    /// `width`, `height`, `topMargin`, `leftMargin`, `rightMargin`, `bottomMargin`, as a keyed archive calls them, and
+    /// in this order.
+    ///
+    /// An archive without keys does not keep the paper size: its first two numbers are the first four bytes of the
+    /// 64-bit width and height, as such archives have always held them. Archives of the same layout are around, so it
+    /// stays.
+    void encodeWithCoder(platform::Coder &coder) const;
 
     /// The values that a panel can bind, in the order of the fields.
     static QStringList exposedBindings();
