@@ -224,7 +224,8 @@ bool KZFontNameTextField::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
         const auto *help = static_cast<QHelpEvent *>(event);
-        QToolTip::showText(help->globalPos(), tr("Double-click or press Space to choose a font"), this);
+        const QString hint = tr("Double-click or press Space to choose a font");
+        QToolTip::showText(help->globalPos(), text() + u'\n' + hint, this);
         return true;
     }
     return TextField::event(event);

@@ -134,6 +134,7 @@ void FontPanel::layOut()
     }
     for (const ColorChoice *choice : {&m_textColor, &m_background}) {
         choice->button->setAutoDefault(false);
+        choice->isSet->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding); // centred beside the button
         m_form->addRow(choice->isSet, choice->button);
     }
     auto *layout = new QVBoxLayout(this);

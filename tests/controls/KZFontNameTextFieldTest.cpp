@@ -10,9 +10,11 @@
 #include <gtest/gtest.h>
 
 #include <QtCore/QMetaProperty>
+#include <QtGui/QHelpEvent>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
+#include <QtWidgets/QToolTip>
 
 #include <limits>
 
@@ -311,6 +313,14 @@ TEST_F(FontFieldInWindow, OpensTheFontPanelByKeyAndByMouse)
     panel.close();
     QTest::mouseDClick(shownField, Qt::LeftButton);
     EXPECT_TRUE(panel.isVisible());
+}
+
+TEST_F(FontFieldInWindow, TellsItsWholeTextAndItsUseInAToolTip)
+{
+    QHelpEvent help(QEvent::ToolTip, QPoint(5, 5), shownField->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(shownField, &help);
+    EXPECT_EQ(QToolTip::text(), u"DejaVuSerif-Bold, 17pt\nDouble-click or press Space to choose a font"_s);
+    QToolTip::hideText();
 }
 
 TEST_F(FontFieldInWindow, GetsTheChangesOfTheFontPanel)
