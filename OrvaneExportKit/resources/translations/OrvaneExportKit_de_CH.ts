@@ -86,6 +86,27 @@
     </message>
 </context>
 <context>
+    <name>KZFontNameTextField</name>
+    <message>
+        <source>Double-click or press Space to choose a font</source>
+        <extracomment>Tool tip of a field that shows a font.</extracomment>
+        <translation>Doppelklicken oder Leertaste drücken, um eine Schrift zu wählen</translation>
+    </message>
+</context>
+<context>
+    <name>KZPageView</name>
+    <message>
+        <source>Page preview</source>
+        <extracomment>What a screen reader calls the picture of a page.</extracomment>
+        <translation>Seitenvorschau</translation>
+    </message>
+    <message>
+        <source>Page %1; margins: top %2, left %3, right %4, bottom %5</source>
+        <extracomment>Read out by a screen reader. %1 is the size of the paper as in &quot;21.00 cm x 29.70 cm&quot;, the others are lengths as in &quot;2.54 cm&quot;.</extracomment>
+        <translation>Seite %1; Ränder: oben %2, links %3, rechts %4, unten %5</translation>
+    </message>
+</context>
+<context>
     <name>Localizable</name>
     <message>
         <source>Level</source>
@@ -96,6 +117,66 @@
         <source>ProcDoc</source>
         <extracomment>&quot;Processing document&quot;: stands in the progress sheet before a colon and the document&apos;s name.</extracomment>
         <translation>Dokument wird verarbeitet</translation>
+    </message>
+</context>
+<context>
+    <name>windowing::FontPanel</name>
+    <message>
+        <source>Fonts</source>
+        <extracomment>Title of the panel in which the user chooses a font.</extracomment>
+        <translation>Schriften</translation>
+    </message>
+    <message>
+        <source>Sample</source>
+        <extracomment>What a screen reader calls the sample of the chosen font.</extracomment>
+        <translation>Schriftprobe</translation>
+    </message>
+    <message>
+        <source>&amp;Family:</source>
+        <translation>&amp;Familie:</translation>
+    </message>
+    <message>
+        <source>&amp;Style:</source>
+        <extracomment>Of a font, such as bold.</extracomment>
+        <translation>&amp;Schnitt:</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze:</source>
+        <extracomment>Of a font.</extracomment>
+        <translation>&amp;Grösse:</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <extracomment>Points, after the size of a font.</extracomment>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>&amp;Underline</source>
+        <translation>&amp;Unterstrichen</translation>
+    </message>
+    <message>
+        <source>Stri&amp;kethrough</source>
+        <translation>&amp;Durchgestrichen</translation>
+    </message>
+    <message>
+        <source>&amp;Text color:</source>
+        <extracomment>Label of a check box; the color is beside it.</extracomment>
+        <translation>&amp;Textfarbe:</translation>
+    </message>
+    <message>
+        <source>Choose the text color</source>
+        <extracomment>What a screen reader calls a button, and title of what it opens.</extracomment>
+        <translation>Textfarbe wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Background:</source>
+        <extracomment>Label of a check box; the background color is beside it.</extracomment>
+        <translation>&amp;Hintergrund:</translation>
+    </message>
+    <message>
+        <source>Choose the background color</source>
+        <extracomment>What a screen reader calls a button, and title of what it opens.</extracomment>
+        <translation>Hintergrundfarbe wählen</translation>
     </message>
 </context>
 </TS>

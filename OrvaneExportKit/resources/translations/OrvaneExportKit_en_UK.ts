@@ -86,6 +86,27 @@
     </message>
 </context>
 <context>
+    <name>KZFontNameTextField</name>
+    <message>
+        <source>Double-click or press Space to choose a font</source>
+        <extracomment>Tool tip of a field that shows a font.</extracomment>
+        <translation>Double-click or press Space to choose a font</translation>
+    </message>
+</context>
+<context>
+    <name>KZPageView</name>
+    <message>
+        <source>Page preview</source>
+        <extracomment>What a screen reader calls the picture of a page.</extracomment>
+        <translation>Page preview</translation>
+    </message>
+    <message>
+        <source>Page %1; margins: top %2, left %3, right %4, bottom %5</source>
+        <extracomment>Read out by a screen reader. %1 is the size of the paper as in &quot;21.00 cm x 29.70 cm&quot;, the others are lengths as in &quot;2.54 cm&quot;.</extracomment>
+        <translation>Page %1; margins: top %2, left %3, right %4, bottom %5</translation>
+    </message>
+</context>
+<context>
     <name>Localizable</name>
     <message>
         <source>Level</source>
@@ -96,6 +117,66 @@
         <source>ProcDoc</source>
         <extracomment>&quot;Processing document&quot;: stands in the progress sheet before a colon and the document&apos;s name.</extracomment>
         <translation>Processing document</translation>
+    </message>
+</context>
+<context>
+    <name>windowing::FontPanel</name>
+    <message>
+        <source>Fonts</source>
+        <extracomment>Title of the panel in which the user chooses a font.</extracomment>
+        <translation>Fonts</translation>
+    </message>
+    <message>
+        <source>Sample</source>
+        <extracomment>What a screen reader calls the sample of the chosen font.</extracomment>
+        <translation>Sample</translation>
+    </message>
+    <message>
+        <source>&amp;Family:</source>
+        <translation>&amp;Family:</translation>
+    </message>
+    <message>
+        <source>&amp;Style:</source>
+        <extracomment>Of a font, such as bold.</extracomment>
+        <translation>&amp;Style:</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze:</source>
+        <extracomment>Of a font.</extracomment>
+        <translation>Si&amp;ze:</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <extracomment>Points, after the size of a font.</extracomment>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>&amp;Underline</source>
+        <translation>&amp;Underline</translation>
+    </message>
+    <message>
+        <source>Stri&amp;kethrough</source>
+        <translation>Stri&amp;kethrough</translation>
+    </message>
+    <message>
+        <source>&amp;Text color:</source>
+        <extracomment>Label of a check box; the color is beside it.</extracomment>
+        <translation>&amp;Text colour:</translation>
+    </message>
+    <message>
+        <source>Choose the text color</source>
+        <extracomment>What a screen reader calls a button, and title of what it opens.</extracomment>
+        <translation>Choose the text colour</translation>
+    </message>
+    <message>
+        <source>&amp;Background:</source>
+        <extracomment>Label of a check box; the background color is beside it.</extracomment>
+        <translation>&amp;Background:</translation>
+    </message>
+    <message>
+        <source>Choose the background color</source>
+        <extracomment>What a screen reader calls a button, and title of what it opens.</extracomment>
+        <translation>Choose the background colour</translation>
     </message>
 </context>
 </TS>

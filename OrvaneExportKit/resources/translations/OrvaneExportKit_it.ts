@@ -86,6 +86,27 @@
     </message>
 </context>
 <context>
+    <name>KZFontNameTextField</name>
+    <message>
+        <source>Double-click or press Space to choose a font</source>
+        <extracomment>Tool tip of a field that shows a font.</extracomment>
+        <translation>Fai doppio clic o premi la barra spaziatrice per scegliere un font</translation>
+    </message>
+</context>
+<context>
+    <name>KZPageView</name>
+    <message>
+        <source>Page preview</source>
+        <extracomment>What a screen reader calls the picture of a page.</extracomment>
+        <translation>Anteprima della pagina</translation>
+    </message>
+    <message>
+        <source>Page %1; margins: top %2, left %3, right %4, bottom %5</source>
+        <extracomment>Read out by a screen reader. %1 is the size of the paper as in &quot;21.00 cm x 29.70 cm&quot;, the others are lengths as in &quot;2.54 cm&quot;.</extracomment>
+        <translation>Pagina %1; margini: superiore %2, sinistro %3, destro %4, inferiore %5</translation>
+    </message>
+</context>
+<context>
     <name>Localizable</name>
     <message>
         <source>Level</source>
@@ -96,6 +117,66 @@
         <source>ProcDoc</source>
         <extracomment>&quot;Processing document&quot;: stands in the progress sheet before a colon and the document&apos;s name.</extracomment>
         <translation>Elaborazione del documento</translation>
+    </message>
+</context>
+<context>
+    <name>windowing::FontPanel</name>
+    <message>
+        <source>Fonts</source>
+        <extracomment>Title of the panel in which the user chooses a font.</extracomment>
+        <translation>Font</translation>
+    </message>
+    <message>
+        <source>Sample</source>
+        <extracomment>What a screen reader calls the sample of the chosen font.</extracomment>
+        <translation>Esempio</translation>
+    </message>
+    <message>
+        <source>&amp;Family:</source>
+        <translation>&amp;Famiglia:</translation>
+    </message>
+    <message>
+        <source>&amp;Style:</source>
+        <extracomment>Of a font, such as bold.</extracomment>
+        <translation>&amp;Stile:</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze:</source>
+        <extracomment>Of a font.</extracomment>
+        <translation>&amp;Dimensione:</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <extracomment>Points, after the size of a font.</extracomment>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>&amp;Underline</source>
+        <translation>So&amp;ttolineato</translation>
+    </message>
+    <message>
+        <source>Stri&amp;kethrough</source>
+        <translation>&amp;Barrato</translation>
+    </message>
+    <message>
+        <source>&amp;Text color:</source>
+        <extracomment>Label of a check box; the color is beside it.</extracomment>
+        <translation>&amp;Colore del testo:</translation>
+    </message>
+    <message>
+        <source>Choose the text color</source>
+        <extracomment>What a screen reader calls a button, and title of what it opens.</extracomment>
+        <translation>Scegli il colore del testo</translation>
+    </message>
+    <message>
+        <source>&amp;Background:</source>
+        <extracomment>Label of a check box; the background color is beside it.</extracomment>
+        <translation>S&amp;fondo:</translation>
+    </message>
+    <message>
+        <source>Choose the background color</source>
+        <extracomment>What a screen reader calls a button, and title of what it opens.</extracomment>
+        <translation>Scegli il colore di sfondo</translation>
     </message>
 </context>
 </TS>
