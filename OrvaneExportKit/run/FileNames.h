@@ -16,11 +16,13 @@ namespace KZStringExportAdditions {
 /// The components, joined, are the pattern. In it, these tokens are replaced, one after the other in this order, so
 /// that text put in by one is searched for those behind it:
 ///
-/// | token | replaced by |
-/// |-------|-------------|
-/// | `<1>` | the running number, the position of the document (or of the first equal one) from 1, at least three digits
-/// | | `<2>` | the document's name | | `<3>` | its status | | `<4>` | its label | | `<5>` | the destination's last
-/// component without extension; empty when the destination is an existing folder |
+/// | token | replaced by                                                                             |
+/// |-------|-----------------------------------------------------------------------------------------|
+/// | `<1>` | the running number of the document (or of the first equal one), at least three digits   |
+/// | `<2>` | its name                                                                                |
+/// | `<3>` | its status                                                                              |
+/// | `<4>` | its label                                                                               |
+/// | `<5>` | the last component of the destination without extension; empty for an existing folder   |
 ///
 /// Then every "/" becomes ":", the extension is appended, and with `convertSpaces` every U+0020 becomes "_".
 ///

@@ -60,9 +60,9 @@ private:
 /// A question that blocks the caller until it is answered:
 ///
 ///     ModalLoop &modalLoop = ModalLoop::modalLoop();
-///     modalLoop.beginSheet(&panel, documentWindow, [&](qint32 code) { panel.hide(); modalLoop.stopModalWithCode(code);
-///     }); const qint64 answer = modalLoop.runModalForWindow(&panel);   // until something calls
-///     modalLoop.endSheet(&panel, code)
+///     modalLoop.beginSheet(&panel, documentWindow, [&](qint32 code) { modalLoop.stopModalWithCode(code); });
+///     const qint64 answer = modalLoop.runModalForWindow(&panel); // until something calls endSheet(&panel, code)
+///     panel.hide();
 class ORVANE_KIT_EXPORT ModalLoop : public QObject
 {
     Q_OBJECT
