@@ -44,7 +44,7 @@ endif()
 if(WITH_HOST)
     set(host "${kit}/${PROGRAM_FOLDER}/orvane-host")
     run("${host}" --list-plugins)
-    if(NOT output MATCHES "^plain-text: ")
+    if(NOT output MATCHES "(^|\n)plain-text: ")
         message(FATAL_ERROR "The installed program does not find its plug-ins; it lists:\n${output}")
     endif()
 
