@@ -117,7 +117,9 @@ KeyedEncoder::Reference KeyedEncoder::encodeInstance(const QStringList &classNam
     const QByteArray key = fingerprint(fields);
     const auto known = m_instances.find(key);
     if (known != m_instances.end()) {
-        m_objects.removeLast(); // nothing was entered meanwhile: all that the fields refer to was there
+        if (m_objects.size() == qsizetype{reference.value} + 1) { // not if an encoder wrote a field twice
+            m_objects.removeLast();
+        }
         return *known;
     }
     m_objects[reference.value] = fields;
@@ -218,9 +220,12 @@ KeyedEncoder::Reference KeyedEncoder::encodePlain(const QVariant &value)
 KeyedEncoder::Reference KeyedEncoder::encodePointer(const QVariant &object, const KeyedEncode &encoding)
 {
     const Reference reference = append(KeyedArchive::nothing.toString());
-    m_sharedValues.insert_or_assign(identity(object), std::pair(object, reference));
+    const Identity known = identity(object);
+    m_sharedValues.insert_or_assign(known, std::pair(object, reference));
+    auto forget = qScopeGuard([this, &known] { m_sharedValues.erase(known); });
     m_objects[reference.value] =
         writtenFields(encoding.classNames, [&](KeyedFieldWriter &writer) { encoding.write(object, writer); });
+    forget.dismiss();
     return reference;
 }
 
@@ -245,6 +250,11 @@ KeyedEncoder::Reference KeyedEncoder::copyObject(const KeyedObject &object)
     if (object.isNull()) {
         return {};
     }
+    auto forget = qScopeGuard([this] {
+        m_copies.clear();
+        m_copiesToFill.clear();
+        m_copiedValues.clear();
+    });
     const Reference reference = reserveCopy(object.m_archive, object.m_index);
     while (!m_copiesToFill.empty()) {
         const auto [source, target] = m_copiesToFill.back();
@@ -252,8 +262,9 @@ KeyedEncoder::Reference KeyedEncoder::copyObject(const KeyedObject &object)
         const auto &[archive, index] = source;
         const QVariant &original = archive->object(index);
         m_objects[target.value] =
-            holds<QVariantMap>(original) ? copiedFields(content<QVariantMap>(original), archive) : original;
+            holds<QVariantMap>(original) ? copiedFields(content<QVariantMap>(original), index, archive) : original;
     }
+    forget.dismiss();
     return reference;
 }
 
@@ -275,6 +286,9 @@ KeyedEncoder::Reference KeyedEncoder::reserveCopy(const Archive &archive, quint3
 
 QVariant KeyedEncoder::copied(const QVariant &value, const Archive &archive)
 {
+    if (++m_copiedValues[archive] > archive->size()) {
+        refuse("an object's archive holds too much for its " + std::to_string(archive->size()) + " bytes");
+    }
     if (holds<Reference>(value)) {
         return QVariant::fromValue(reserveCopy(archive, content<Reference>(value).value));
     }
@@ -295,12 +309,12 @@ QVariant KeyedEncoder::copied(const QVariant &value, const Archive &archive)
     return value;
 }
 
-QVariantMap KeyedEncoder::copiedFields(const QVariantMap &fields, const Archive &archive)
+QVariantMap KeyedEncoder::copiedFields(const QVariantMap &fields, quint32 index, const Archive &archive)
 {
     QVariantMap copy;
     for (auto field = fields.begin(); field != fields.end(); ++field) {
         if (field.key() == KeyedArchive::classKey) {
-            const KeyedArchive::Class original = archive->classAt(content<Reference>(*field).value);
+            const KeyedArchive::Class original = archive->classAt(archive->classIndex(index));
             copy.insert(field.key(), QVariant::fromValue(classReference(original.name, original.names)));
         } else {
             copy.insert(field.key(), copied(*field, archive));
