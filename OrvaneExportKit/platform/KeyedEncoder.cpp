@@ -63,14 +63,42 @@ bool isPlain(const QVariant &value)
     return false;
 }
 
-/// Equal bytes for equal values of the same type.
-QByteArray fingerprint(const QVariant &value)
+void appendBytes(QByteArray &fingerprint, char kind, const void *bytes, qsizetype size)
 {
-    const PropertyList::WriteResult written = PropertyList::write(value, PropertyList::Format::Binary);
-    if (!written.data) {
-        refuse(written.error.toStdString());
+    fingerprint += kind;
+    fingerprint.append(reinterpret_cast<const char *>(&size), sizeof size);
+    fingerprint.append(static_cast<const char *>(bytes), size);
+}
+
+/// Appends equal bytes for equal values of the same type. Most of what fields hold are references, which are quick.
+void appendFingerprint(QByteArray &fingerprint, const QVariant &value)
+{
+    if (holds<PropertyList::Uid>(value)) {
+        appendBytes(fingerprint, 'u', value.constData(), sizeof(PropertyList::Uid));
+    } else if (holds<QVariantList>(value)) {
+        const auto &list = content<QVariantList>(value);
+        fingerprint += '[';
+        for (const QVariant &element : list) {
+            appendFingerprint(fingerprint, element);
+        }
+        fingerprint += ']';
+    } else {
+        const PropertyList::WriteResult written = PropertyList::write(value, PropertyList::Format::Binary);
+        if (!written.data) {
+            refuse(written.error.toStdString());
+        }
+        appendBytes(fingerprint, 'p', written.data->constData(), written.data->size());
     }
-    return *written.data;
+}
+
+QByteArray fingerprint(const QVariantMap &fields)
+{
+    QByteArray fingerprint;
+    for (auto field = fields.begin(); field != fields.end(); ++field) {
+        appendBytes(fingerprint, 'k', field.key().constData(), field.key().size() * qsizetype{sizeof(QChar)});
+        appendFingerprint(fingerprint, *field);
+    }
+    return fingerprint;
 }
 
 } // namespace
@@ -81,6 +109,9 @@ KeyedEncoder::KeyedEncoder() : m_objects{KeyedArchive::nothing.toString()}
 
 KeyedEncoder::Reference KeyedEncoder::encode(const QVariant &object)
 {
+    if (holds<QString>(object)) {
+        return encodeString(content<QString>(object));
+    }
     if (!object.isValid() || (isPointer(object) && content<const void *>(object) == nullptr)) {
         return {};
     }
@@ -171,9 +202,6 @@ KeyedEncoder::Identity KeyedEncoder::identity(const QVariant &object)
 
 KeyedEncoder::Reference KeyedEncoder::encodeNew(const QVariant &object)
 {
-    if (holds<QString>(object)) {
-        return encodeString(content<QString>(object));
-    }
     if (holds<KeyedObject>(object)) {
         return copyObject(content<KeyedObject>(object));
     }
@@ -211,7 +239,8 @@ KeyedEncoder::Reference KeyedEncoder::encodeString(const QString &string)
 
 KeyedEncoder::Reference KeyedEncoder::encodePlain(const QVariant &value)
 {
-    const QByteArray key = fingerprint(value);
+    QByteArray key;
+    appendFingerprint(key, value);
     const auto known = m_plainValues.find(key);
     return known != m_plainValues.end() ? *known : *m_plainValues.insert(key, append(value));
 }

@@ -23,7 +23,7 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 
 constexpr qint64 millisecondsTo2001 = 978307200000;
-constexpr double furthestSecond = 9e15; // 285 million years, which milliseconds in 64 bits can count
+constexpr double furthestSecond = 9.22e15; // 292 million years, which milliseconds in 64 bits can count
 constexpr qsizetype uuidSize = 16;
 
 /// What `NS.special` of a boxed value says of its kind.
