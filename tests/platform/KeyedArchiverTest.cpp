@@ -8,6 +8,7 @@
 #include <tests/support/HandMadeArchives.h>
 #include <tests/support/Printers.h>
 #include <tests/support/PropertyListDump.h>
+#include <tests/support/SharingArchives.h>
 
 #include <gtest/gtest.h>
 
@@ -397,6 +398,16 @@ TEST(KeyedArchiver, RefusesToCopyAnObjectThatRefersToABrokenOne)
         archiver.encodeObject(u"sound"_s, u"root"_s);
         EXPECT_EQ(KeyedUnarchiver::unarchiveObjectWithData(archiver.encodedData()), QVariant(u"sound"_s));
     }
+}
+
+TEST(KeyedArchiver, RefusesToCopyMoreThanTheArchiveIsWorth)
+{
+    constexpr quint16 count = 5000;
+    support::BinaryList list;
+    const quint16 elements = list.addArray(QList<quint16>(count, list.addString("a")));
+    const QByteArray data = support::manyOfOne(list, count, "NSNull", "unread", elements, "Note");
+    EXPECT_EQ(complaint(KeyedUnarchiver::unarchiveObjectWithData(data)),
+              "encodeObject: an object's archive holds too much for its " + std::to_string(data.size()) + " bytes");
 }
 
 TEST(KeyedArchiver, WritesNoObjectForAnEmptyKeyedObject)
