@@ -6,6 +6,13 @@ if(ORVANE_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(ORVANE_BUILD_FUZZERS)
+    if(NOT CMAKE_CXX_COMPILER_ID MATCHES Clang)
+        message(FATAL_ERROR "ORVANE_BUILD_FUZZERS needs Clang")
+    endif()
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 function(orvane_compile target)
     target_compile_features(${target} PUBLIC cxx_std_20)
     set_target_properties(${target} PROPERTIES

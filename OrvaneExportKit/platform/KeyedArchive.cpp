@@ -46,7 +46,7 @@ Value required(const QVariantMap &archive, const QString &key)
 
 } // namespace
 
-KeyedArchive::KeyedArchive(QByteArrayView data)
+KeyedArchive::KeyedArchive(QByteArrayView data) : m_size(static_cast<quint64>(data.size()))
 {
     const QVariantMap archive = readPropertyList(data);
     const QString archiver = required<QString>(archive, u"$archiver"_s);
@@ -65,7 +65,7 @@ const QVariantMap &KeyedArchive::fields(quint32 index) const
 {
     const QVariantMap *fields = asMap(m_objects[index]);
     if (fields == nullptr) {
-        failInArchive(placeOf(index), u"is a plain value and has no class"_s);
+        failInArchive(placeOf(index), u"is neither a plain value nor a dictionary with a class"_s);
     }
     return *fields;
 }

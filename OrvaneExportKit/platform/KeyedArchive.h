@@ -26,6 +26,9 @@ public:
 
     explicit KeyedArchive(QByteArrayView data);
 
+    /// How many bytes the archive has.
+    quint64 size() const { return m_size; }
+
     const QVariantMap &outermostFields() const { return m_top; }
     quint32 objectCount() const { return static_cast<quint32>(m_objects.size()); }
     const QVariant &object(quint32 index) const { return m_objects[index]; }
@@ -42,6 +45,7 @@ public:
     static QString archivedKey(const QString &key);
 
 private:
+    quint64 m_size;
     QVariantMap m_top;
     QVariantList m_objects;
 };

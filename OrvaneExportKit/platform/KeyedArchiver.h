@@ -27,7 +27,8 @@ class KeyedFieldWriter;
 ///
 /// Everything else throws `InvalidArgumentException`: types that are not known, invalid values inside lists and maps,
 /// more than `KeyedUnarchiver::maximumNesting` values inside each other, and, in XML, strings that the format cannot
-/// hold (see `PropertyList`).
+/// hold (see `PropertyList`). A `KeyedObject` that refers to something malformed, in a field that nobody reads, throws
+/// `ArchiveException`.
 class ORVANE_CORE_EXPORT KeyedArchiver final : public Coder
 {
 public:

@@ -3,6 +3,7 @@
 #include <OrvaneExportKit/platform/ArchivedTypes.h>
 #include <OrvaneExportKit/platform/Base128.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/platform/KeyedDecoder.h>
 #include <OrvaneExportKit/platform/KeyedFieldReader.h>
 #include <OrvaneExportKit/platform/KeyedFieldWriter.h>
 #include <OrvaneExportKit/platform/Range.h>
@@ -36,6 +37,7 @@ bool isString(const QVariant &value)
 QList<quint64> decodeNumbers(KeyedFieldReader &reader, const QString &key)
 {
     const QByteArray data = reader.dataForKey(key);
+    reader.decoder().spend(static_cast<quint64>(data.size()) * sizeof(quint64));
     QByteArrayView bytes = data;
     QList<quint64> numbers;
     while (!bytes.isEmpty()) {

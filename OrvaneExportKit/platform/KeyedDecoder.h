@@ -27,26 +27,51 @@ public:
     /// meets nothing malformed.
     void decodeUnknownObjects();
 
+    /// Called for what decoding makes in memory beyond what it shares with the archive, in bytes. Throws an
+    /// `ArchiveException` when all of it is out of proportion to the length of the archive: in a binary archive a few
+    /// bytes can say over and over again that here, too, stands what stands there.
+    void spend(quint64 bytes);
+
+    /// Roughly how long it takes to compare the map with an equal one, in values inside it; small values that share
+    /// each other can hold more of them than anybody can count to. The map is one that was decoded here.
+    quint64 valuesInside(const QVariantMap &map) const;
+
+    /// Called for every comparison of decoded maps, with the values in them. Throws an `ArchiveException` when there
+    /// are too many.
+    void spendComparison(quint64 values);
+
 private:
     struct Class {
         QString name;
         KeyedDecode decode; ///< empty for an unknown class
     };
 
+    /// What an object holds, the objects inside it included.
+    struct Extent {
+        int nesting = 1;
+        quint64 values = 1;
+    };
+
     struct Instance {
         bool inProgress = true;
         QVariant value;
+        Extent extent;
     };
 
-    QVariant decodeInstance(quint32 index);
-    QVariant unknownObject(quint32 index);
+    const Instance &decodeInstance(quint32 index);
+    void enclose(const Extent &inner);
+    const Instance &unknownObject(quint32 index);
     const Class &classAt(quint32 classIndex);
 
     std::shared_ptr<const KeyedArchive> m_archive;
-    std::unordered_map<quint32, Instance> m_instances; ///< by index, those that were begun
-    std::unordered_map<quint32, Class> m_classes;      ///< by index
-    std::vector<quint32> m_unknownObjects;             ///< handed out, their fields not yet decoded
+    std::unordered_map<quint32, Instance> m_instances;        ///< by index, those that were begun
+    std::unordered_map<quint32, Class> m_classes;             ///< by index
+    std::vector<quint32> m_unknownObjects;                    ///< handed out, their fields not yet decoded
+    std::unordered_map<const void *, quint64> m_valuesInside; ///< by the address of the first key
+    Extent m_extent;                                          ///< of the object in progress, so far
     int m_nesting = 0;
+    quint64 m_spent = 0;
+    quint64 m_compared = 0;
 };
 
 } // namespace platform

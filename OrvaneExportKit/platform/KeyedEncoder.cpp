@@ -63,14 +63,42 @@ bool isPlain(const QVariant &value)
     return false;
 }
 
-/// Equal bytes for equal values of the same type.
-QByteArray fingerprint(const QVariant &value)
+void appendBytes(QByteArray &fingerprint, char kind, const void *bytes, qsizetype size)
 {
-    const PropertyList::WriteResult written = PropertyList::write(value, PropertyList::Format::Binary);
-    if (!written.data) {
-        refuse(written.error.toStdString());
+    fingerprint += kind;
+    fingerprint.append(reinterpret_cast<const char *>(&size), sizeof size);
+    fingerprint.append(static_cast<const char *>(bytes), size);
+}
+
+/// Appends equal bytes for equal values of the same type. Most of what fields hold are references, which are quick.
+void appendFingerprint(QByteArray &fingerprint, const QVariant &value)
+{
+    if (holds<PropertyList::Uid>(value)) {
+        appendBytes(fingerprint, 'u', value.constData(), sizeof(PropertyList::Uid));
+    } else if (holds<QVariantList>(value)) {
+        const auto &list = content<QVariantList>(value);
+        fingerprint += '[';
+        for (const QVariant &element : list) {
+            appendFingerprint(fingerprint, element);
+        }
+        fingerprint += ']';
+    } else {
+        const PropertyList::WriteResult written = PropertyList::write(value, PropertyList::Format::Binary);
+        if (!written.data) {
+            refuse(written.error.toStdString());
+        }
+        appendBytes(fingerprint, 'p', written.data->constData(), written.data->size());
     }
-    return *written.data;
+}
+
+QByteArray fingerprint(const QVariantMap &fields)
+{
+    QByteArray fingerprint;
+    for (auto field = fields.begin(); field != fields.end(); ++field) {
+        appendBytes(fingerprint, 'k', field.key().constData(), field.key().size() * qsizetype{sizeof(QChar)});
+        appendFingerprint(fingerprint, *field);
+    }
+    return fingerprint;
 }
 
 } // namespace
@@ -81,6 +109,9 @@ KeyedEncoder::KeyedEncoder() : m_objects{KeyedArchive::nothing.toString()}
 
 KeyedEncoder::Reference KeyedEncoder::encode(const QVariant &object)
 {
+    if (holds<QString>(object)) {
+        return encodeString(content<QString>(object));
+    }
     if (!object.isValid() || (isPointer(object) && content<const void *>(object) == nullptr)) {
         return {};
     }
@@ -117,7 +148,9 @@ KeyedEncoder::Reference KeyedEncoder::encodeInstance(const QStringList &classNam
     const QByteArray key = fingerprint(fields);
     const auto known = m_instances.find(key);
     if (known != m_instances.end()) {
-        m_objects.removeLast(); // nothing was entered meanwhile: all that the fields refer to was there
+        if (m_objects.size() == qsizetype{reference.value} + 1) { // not if an encoder wrote a field twice
+            m_objects.removeLast();
+        }
         return *known;
     }
     m_objects[reference.value] = fields;
@@ -169,9 +202,6 @@ KeyedEncoder::Identity KeyedEncoder::identity(const QVariant &object)
 
 KeyedEncoder::Reference KeyedEncoder::encodeNew(const QVariant &object)
 {
-    if (holds<QString>(object)) {
-        return encodeString(content<QString>(object));
-    }
     if (holds<KeyedObject>(object)) {
         return copyObject(content<KeyedObject>(object));
     }
@@ -209,7 +239,8 @@ KeyedEncoder::Reference KeyedEncoder::encodeString(const QString &string)
 
 KeyedEncoder::Reference KeyedEncoder::encodePlain(const QVariant &value)
 {
-    const QByteArray key = fingerprint(value);
+    QByteArray key;
+    appendFingerprint(key, value);
     const auto known = m_plainValues.find(key);
     return known != m_plainValues.end() ? *known : *m_plainValues.insert(key, append(value));
 }
@@ -218,9 +249,12 @@ KeyedEncoder::Reference KeyedEncoder::encodePlain(const QVariant &value)
 KeyedEncoder::Reference KeyedEncoder::encodePointer(const QVariant &object, const KeyedEncode &encoding)
 {
     const Reference reference = append(KeyedArchive::nothing.toString());
-    m_sharedValues.insert_or_assign(identity(object), std::pair(object, reference));
+    const Identity known = identity(object);
+    m_sharedValues.insert_or_assign(known, std::pair(object, reference));
+    auto forget = qScopeGuard([this, &known] { m_sharedValues.erase(known); });
     m_objects[reference.value] =
         writtenFields(encoding.classNames, [&](KeyedFieldWriter &writer) { encoding.write(object, writer); });
+    forget.dismiss();
     return reference;
 }
 
@@ -245,6 +279,11 @@ KeyedEncoder::Reference KeyedEncoder::copyObject(const KeyedObject &object)
     if (object.isNull()) {
         return {};
     }
+    auto forget = qScopeGuard([this] {
+        m_copies.clear();
+        m_copiesToFill.clear();
+        m_copiedValues.clear();
+    });
     const Reference reference = reserveCopy(object.m_archive, object.m_index);
     while (!m_copiesToFill.empty()) {
         const auto [source, target] = m_copiesToFill.back();
@@ -252,8 +291,9 @@ KeyedEncoder::Reference KeyedEncoder::copyObject(const KeyedObject &object)
         const auto &[archive, index] = source;
         const QVariant &original = archive->object(index);
         m_objects[target.value] =
-            holds<QVariantMap>(original) ? copiedFields(content<QVariantMap>(original), archive) : original;
+            holds<QVariantMap>(original) ? copiedFields(content<QVariantMap>(original), index, archive) : original;
     }
+    forget.dismiss();
     return reference;
 }
 
@@ -275,6 +315,9 @@ KeyedEncoder::Reference KeyedEncoder::reserveCopy(const Archive &archive, quint3
 
 QVariant KeyedEncoder::copied(const QVariant &value, const Archive &archive)
 {
+    if (++m_copiedValues[archive] > archive->size()) {
+        refuse("an object's archive holds too much for its " + std::to_string(archive->size()) + " bytes");
+    }
     if (holds<Reference>(value)) {
         return QVariant::fromValue(reserveCopy(archive, content<Reference>(value).value));
     }
@@ -295,12 +338,12 @@ QVariant KeyedEncoder::copied(const QVariant &value, const Archive &archive)
     return value;
 }
 
-QVariantMap KeyedEncoder::copiedFields(const QVariantMap &fields, const Archive &archive)
+QVariantMap KeyedEncoder::copiedFields(const QVariantMap &fields, quint32 index, const Archive &archive)
 {
     QVariantMap copy;
     for (auto field = fields.begin(); field != fields.end(); ++field) {
         if (field.key() == KeyedArchive::classKey) {
-            const KeyedArchive::Class original = archive->classAt(content<Reference>(*field).value);
+            const KeyedArchive::Class original = archive->classAt(archive->classIndex(index));
             copy.insert(field.key(), QVariant::fromValue(classReference(original.name, original.names)));
         } else {
             copy.insert(field.key(), copied(*field, archive));

@@ -58,7 +58,7 @@ private:
     Reference copyObject(const KeyedObject &object);
     Reference reserveCopy(const Archive &archive, quint32 index);
     QVariant copied(const QVariant &value, const Archive &archive);
-    QVariantMap copiedFields(const QVariantMap &fields, const Archive &archive);
+    QVariantMap copiedFields(const QVariantMap &fields, quint32 index, const Archive &archive);
 
     Reference classReference(const QString &name, const QStringList &names);
     Reference append(const QVariant &object);
@@ -73,6 +73,7 @@ private:
     std::map<Identity, std::pair<QVariant, Reference>> m_sharedValues;
     std::map<std::pair<Archive, quint32>, Reference> m_copies;
     std::vector<std::pair<std::pair<Archive, quint32>, Reference>> m_copiesToFill;
+    std::map<Archive, quint64> m_copiedValues; ///< how many of each
     int m_nesting = 0;
 };
 

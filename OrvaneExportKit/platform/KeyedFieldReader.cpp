@@ -21,6 +21,11 @@ bool holds(const QVariant &value)
     return value.metaType() == QMetaType::fromType<Value>();
 }
 
+quint64 spaceOf(qsizetype values)
+{
+    return static_cast<quint64>(values) * sizeof(QVariant);
+}
+
 bool isNumber(const QVariant &value)
 {
     return holds<bool>(value) || holds<qint64>(value) || holds<quint64>(value) || holds<double>(value);
@@ -143,6 +148,7 @@ void KeyedFieldReader::decodeValueOfObjCType(const char *type, void *address)
 
 QVariant KeyedFieldReader::decodeField(const QString &archivedKey)
 {
+    m_decoder.spend(sizeof(QVariant));
     const auto value = m_fields.find(archivedKey);
     return value == m_fields.end() ? QVariant() : decodeInline(*value, archivedKey);
 }
@@ -156,11 +162,26 @@ QString KeyedFieldReader::stringForKey(const QString &key) const
     return string->toString();
 }
 
+QString KeyedFieldReader::stringObjectForKey(const QString &key)
+{
+    const QVariant string = decodeObjectForKey(key);
+    if (!holds<QString>(string)) {
+        fail(u"`%1` is not a string"_s.arg(key));
+    }
+    return string.toString();
+}
+
 QByteArray KeyedFieldReader::dataForKey(const QString &key)
 {
-    const QVariant *data = field(key);
-    const bool isReference = data != nullptr && holds<PropertyList::Uid>(*data);
-    return isReference ? objectForKey<QByteArray>(key, u"data") : decodeBytesForKey(key);
+    const QVariant *field = this->field(key);
+    if (field == nullptr || !holds<PropertyList::Uid>(*field)) {
+        return decodeBytesForKey(key);
+    }
+    const QVariant data = decodeObjectForKey(key);
+    if (!holds<QByteArray>(data)) {
+        fail(u"`%1` is not data"_s.arg(key));
+    }
+    return data.toByteArray();
 }
 
 QVariant KeyedFieldReader::numberForKey(const QString &key) const
@@ -189,6 +210,7 @@ QVariantList KeyedFieldReader::objectsForKey(const QString &key)
     }
     const auto &list = *static_cast<const QVariantList *>(references->constData());
     QVariantList objects;
+    m_decoder.spend(spaceOf(list.size()));
     objects.reserve(list.size());
     for (const QVariant &reference : list) {
         objects.append(requireObject(reference, key));
@@ -201,6 +223,7 @@ QVariantList KeyedFieldReader::numberedObjects(const QString &prefix)
     QVariantList objects;
     QString key = prefix + u'0';
     for (const QVariant *reference = field(key); reference != nullptr; reference = field(key)) {
+        m_decoder.spend(sizeof(QVariant));
         objects.append(requireObject(*reference, key));
         key = prefix + QString::number(objects.size());
     }
@@ -226,6 +249,7 @@ QVariant KeyedFieldReader::decodeInline(const QVariant &value, const QString &ke
     }
     if (holds<QVariantList>(value)) {
         QVariantList list = value.toList();
+        m_decoder.spend(spaceOf(list.size()));
         for (QVariant &element : list) {
             element = decodeInline(element, key);
         }
@@ -233,6 +257,7 @@ QVariant KeyedFieldReader::decodeInline(const QVariant &value, const QString &ke
     }
     if (holds<QVariantMap>(value)) {
         QVariantMap map = value.toMap();
+        m_decoder.spend(spaceOf(map.size()));
         for (QVariant &entry : map) {
             entry = decodeInline(entry, key);
         }

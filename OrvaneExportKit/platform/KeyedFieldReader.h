@@ -36,6 +36,9 @@ public:
     /// The string that stands in a field, not as an object.
     QString stringForKey(const QString &key) const;
 
+    /// The string that a field refers to.
+    QString stringObjectForKey(const QString &key);
+
     /// The bytes of a data object that the field refers to, or that stand in the field.
     QByteArray dataForKey(const QString &key);
 
@@ -45,15 +48,13 @@ public:
     /// A number that must be an integer of 0 or more; 0 for a missing one.
     quint64 countForKey(const QString &key) const;
 
-    /// The object in a field, which must be one of that type.
-    template <typename Value>
-    Value objectForKey(const QString &key, QStringView kind);
-
     /// The objects of a field that holds an array of references, none of which may be to nothing.
     QVariantList objectsForKey(const QString &key);
 
     /// The objects of fields that are numbered from 0, up to the first that is missing: `NS.object.0` ...
     QVariantList numberedObjects(const QString &prefix);
+
+    KeyedDecoder &decoder() const { return m_decoder; }
 
     /// Throws an `ArchiveException` whose place is this object.
     [[noreturn]] void fail(const QString &complaint) const;
@@ -70,15 +71,5 @@ private:
     QString m_className;
     int m_unnamedFieldsRead = 0;
 };
-
-template <typename Value>
-Value KeyedFieldReader::objectForKey(const QString &key, QStringView kind)
-{
-    const QVariant object = decodeObjectForKey(key);
-    if (object.metaType() != QMetaType::fromType<Value>()) {
-        fail(QStringLiteral("`%1` is not %2").arg(key, kind));
-    }
-    return object.value<Value>();
-}
 
 } // namespace platform

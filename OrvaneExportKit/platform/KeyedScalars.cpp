@@ -2,6 +2,7 @@
 
 #include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/platform/GeometryStrings.h>
+#include <OrvaneExportKit/platform/KeyedDecoder.h>
 #include <OrvaneExportKit/platform/KeyedFieldReader.h>
 #include <OrvaneExportKit/platform/KeyedFieldWriter.h>
 #include <OrvaneExportKit/platform/Range.h>
@@ -22,7 +23,7 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 
 constexpr qint64 millisecondsTo2001 = 978307200000;
-constexpr double furthestSecond = 9e15; // 285 million years, which milliseconds in 64 bits can count
+constexpr double furthestSecond = 9.22e15; // 292 million years, which milliseconds in 64 bits can count
 constexpr qsizetype uuidSize = 16;
 
 /// What `NS.special` of a boxed value says of its kind.
@@ -37,11 +38,18 @@ enum Special : qint64 {
 template <typename Geometry, typename Parse>
 QVariant decodeGeometryString(KeyedFieldReader &reader, const QString &key, Parse parse)
 {
-    const std::optional<Geometry> geometry = parse(reader.objectForKey<QString>(key, u"a string"));
+    const QString string = reader.stringObjectForKey(key);
+    reader.decoder().spend(static_cast<quint64>(string.size()));
+    const std::optional<Geometry> geometry = parse(string);
     if (!geometry) {
         reader.fail(u"`%1` does not hold the numbers that it should, as in `{1, 2}`"_s.arg(key));
     }
     return *geometry;
+}
+
+void spendUrl(KeyedFieldReader &reader, const QString &url)
+{
+    reader.decoder().spend(static_cast<quint64>(url.size()) * sizeof(QChar));
 }
 
 std::size_t rangeMember(KeyedFieldReader &reader, const QString &key)
@@ -63,8 +71,10 @@ QVariant decodeString(KeyedFieldReader &reader)
     if (!reader.containsValueForKey(u"NS.bytes"_s)) {
         return reader.stringForKey(u"NS.string"_s);
     }
+    const QByteArray bytes = reader.decodeBytesForKey(u"NS.bytes"_s);
+    reader.decoder().spend(static_cast<quint64>(bytes.size()) * sizeof(QChar));
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    QString string = decoder(reader.decodeBytesForKey(u"NS.bytes"_s));
+    QString string = decoder(bytes);
     if (decoder.hasError()) {
         reader.fail(u"`NS.bytes` is not UTF-8"_s);
     }
@@ -107,7 +117,8 @@ QVariant decodeDate(KeyedFieldReader &reader)
 
 QVariant decodeUrl(KeyedFieldReader &reader)
 {
-    const QString relative = reader.objectForKey<QString>(u"NS.relative"_s, u"a string");
+    const QString relative = reader.stringObjectForKey(u"NS.relative"_s);
+    spendUrl(reader, relative);
     QUrl url(relative);
     if (!url.isValid() && !relative.isEmpty()) {
         reader.fail(u"`NS.relative` is no URL"_s);
@@ -119,7 +130,9 @@ QVariant decodeUrl(KeyedFieldReader &reader)
     if (base.metaType() != QMetaType::fromType<QUrl>()) {
         reader.fail(u"`NS.base` is no URL"_s);
     }
-    return base.toUrl().resolved(url);
+    const QUrl resolved = base.toUrl().resolved(url);
+    spendUrl(reader, resolved.toString());
+    return resolved;
 }
 
 QVariant decodeUuid(KeyedFieldReader &reader)

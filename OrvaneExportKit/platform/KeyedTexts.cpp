@@ -2,6 +2,7 @@
 
 #include <OrvaneExportKit/platform/AttributedString.h>
 #include <OrvaneExportKit/platform/Base128.h>
+#include <OrvaneExportKit/platform/KeyedDecoder.h>
 #include <OrvaneExportKit/platform/KeyedFieldReader.h>
 #include <OrvaneExportKit/platform/KeyedFieldWriter.h>
 
@@ -13,14 +14,26 @@ using namespace Qt::Literals::StringLiterals;
 
 using Stretches = QList<AttributedString::Stretch>;
 
+/// Attributes are compared whenever units with others come to stand beside them, so there is an end to what they hold.
+QVariantMap requireAttributes(KeyedFieldReader &reader, const QVariant &dictionary)
+{
+    constexpr quint64 maximumValues = 1ULL << 20;
+    QVariantMap attributes = dictionary.toMap();
+    if (reader.decoder().valuesInside(attributes) > maximumValues) {
+        reader.fail(u"`NSAttributes` has a dictionary with more than %1 values inside each other"_s.arg(maximumValues));
+    }
+    return attributes;
+}
+
 QList<QVariantMap> decodeAttributeDictionaries(KeyedFieldReader &reader, const QVariant &attributes)
 {
+    reader.decoder().spend(static_cast<quint64>(attributes.toList().size()) * sizeof(QVariantMap));
     QList<QVariantMap> dictionaries;
     for (const QVariant &dictionary : attributes.toList()) {
         if (dictionary.metaType() != QMetaType::fromType<QVariantMap>()) {
             reader.fail(u"`NSAttributes` holds something that is no dictionary of attributes"_s);
         }
-        dictionaries.append(dictionary.toMap());
+        dictionaries.append(requireAttributes(reader, dictionary));
     }
     return dictionaries;
 }
@@ -29,6 +42,7 @@ QList<QVariantMap> decodeAttributeDictionaries(KeyedFieldReader &reader, const Q
 Stretches decodeStretches(KeyedFieldReader &reader, const QList<QVariantMap> &dictionaries, std::size_t textLength)
 {
     const QByteArray data = reader.dataForKey(u"NSAttributeInfo"_s);
+    reader.decoder().spend(static_cast<quint64>(data.size()) * sizeof(AttributedString::Stretch));
     QByteArrayView bytes = data;
     Stretches stretches;
     std::size_t unitsLeft = textLength;
@@ -44,7 +58,9 @@ Stretches decodeStretches(KeyedFieldReader &reader, const QList<QVariantMap> &di
         if (*index >= static_cast<quint64>(dictionaries.size())) {
             reader.fail(u"`NSAttributeInfo` names attributes %1; there are %2"_s.arg(*index).arg(dictionaries.size()));
         }
-        stretches.append({*length, dictionaries[static_cast<qsizetype>(*index)]});
+        if (*length > 0) {
+            stretches.append({*length, dictionaries[static_cast<qsizetype>(*index)]});
+        }
         unitsLeft -= *length;
     }
     if (unitsLeft > 0) {
@@ -53,23 +69,35 @@ Stretches decodeStretches(KeyedFieldReader &reader, const QList<QVariantMap> &di
     return stretches;
 }
 
+void spendComparisons(KeyedDecoder &decoder, const Stretches &stretches)
+{
+    for (qsizetype i = 1; i < stretches.size(); ++i) {
+        const QVariantMap &left = stretches[i - 1].attributes;
+        const QVariantMap &right = stretches[i].attributes;
+        if (!left.isSharedWith(right)) {
+            decoder.spendComparison(std::min(decoder.valuesInside(left), decoder.valuesInside(right)));
+        }
+    }
+}
+
 } // namespace
 
 QVariant decodeAttributedString(KeyedFieldReader &reader)
 {
-    const auto string = reader.objectForKey<QString>(u"NSString"_s, u"a string");
+    const QString string = reader.stringObjectForKey(u"NSString"_s);
     const QVariant attributes = reader.decodeObjectForKey(u"NSAttributes"_s);
     if (string.isEmpty() || !attributes.isValid()) {
         return QVariant::fromValue(AttributedString(string));
     }
     if (attributes.metaType() == QMetaType::fromType<QVariantMap>()) {
-        return QVariant::fromValue(AttributedString(string, attributes.toMap()));
+        return QVariant::fromValue(AttributedString(string, requireAttributes(reader, attributes)));
     }
     if (attributes.metaType() != QMetaType::fromType<QVariantList>()) {
         reader.fail(u"`NSAttributes` is neither a dictionary of attributes nor an array of them"_s);
     }
     const auto length = static_cast<std::size_t>(string.size());
     const Stretches stretches = decodeStretches(reader, decodeAttributeDictionaries(reader, attributes), length);
+    spendComparisons(reader.decoder(), stretches);
     return QVariant::fromValue(AttributedString::fromStretches(string, stretches));
 }
 

@@ -20,21 +20,23 @@ class KeyedFieldReader;
 ///
 /// The classes known by themselves, with their mutable variants, and what they become:
 ///
-/// | class                                                      | becomes                                          |
-/// |------------------------------------------------------------|--------------------------------------------------|
-/// | `NSString`                                                 | `QString`                                        |
-/// | `NSNumber`                                                 | `bool`, `qint64`, above its range `quint64`, or
-/// `double` | | `NSNull`                                                   | `std::nullptr_t` | | `NSData` |
-/// `QByteArray`                                     | | `NSDate`                                                   |
-/// `QDateTime` in UTC, to the millisecond           | | `NSArray`                                                  |
-/// `QVariantList`                                   | | `NSDictionary`                                             |
-/// `QVariantMap`, `ObjectDictionary` if not all keys are strings | | `NSSet`, `NSOrderedSet`, `NSCountedSet` |
-/// `ObjectSet`, `OrderedObjectSet`, `CountedObjectSet` | | `NSURL`                                                    |
-/// `QUrl`, resolved against its base                | | `NSUUID`                                                   |
-/// `QUuid`                                          | | `NSValue` of a point, size, rectangle, range, edge insets  |
-/// `QPointF`, `QSizeF`, `QRectF`, `Range`, `QMarginsF` | | `NSIndexSet`, `NSIndexPath`                                |
-/// `RangeList`, `IndexPath`                         | | `NSAttributedString`, `NSTextStorage`                      |
-/// `AttributedString`                               |
+/// | class                                   | becomes                                                       |
+/// |-----------------------------------------|---------------------------------------------------------------|
+/// | `NSString`                              | `QString`                                                     |
+/// | `NSNumber`                              | `bool`, `qint64`, above its range `quint64`, or `double`      |
+/// | `NSNull`                                | `std::nullptr_t`                                              |
+/// | `NSData`                                | `QByteArray`                                                  |
+/// | `NSDate`                                | `QDateTime` in UTC, to the millisecond                        |
+/// | `NSArray`                               | `QVariantList`                                                |
+/// | `NSDictionary`                          | `QVariantMap`; `ObjectDictionary` if not all keys are strings |
+/// | `NSSet`, `NSOrderedSet`                 | `ObjectSet`, `OrderedObjectSet`                               |
+/// | `NSCountedSet`                          | `CountedObjectSet`                                            |
+/// | `NSURL`                                 | `QUrl`, resolved against its base                             |
+/// | `NSUUID`                                | `QUuid`                                                       |
+/// | `NSValue` of a point, size or rectangle | `QPointF`, `QSizeF`, `QRectF`                                 |
+/// | `NSValue` of a range or edge insets     | `Range`, `QMarginsF`                                          |
+/// | `NSIndexSet`, `NSIndexPath`             | `RangeList`, `IndexPath`                                      |
+/// | `NSAttributedString`, `NSTextStorage`   | `AttributedString`                                            |
 ///
 /// A registered class (`ArchivedClassRegistration`) becomes what its decoder makes of it; the library with the windows
 /// registers colours, fonts and paragraph styles. An object of any other class becomes a `KeyedObject`, which keeps
@@ -44,10 +46,12 @@ class KeyedFieldReader;
 /// A circle of references is kept where it leads through a `KeyedObject`; others cannot be held by values and throw.
 ///
 /// Everything that is wrong with an archive throws an `ArchiveException` that names the place and what is wrong there
-/// ("object 7 (NSArray): `NS.objects` holds a reference to object 99; the archive has 12"). Refused are property lists
+/// ("object 7 (NSArray): `NS.objects` refers to object 99; the archive has 12"). Refused are property lists
 /// that are malformed or no keyed archive of the known version, references to nothing, broken class entries, missing or
 /// wrong fields, sizes that do not fit each other, elements and keys that are no object, circles as above, and more
-/// than `maximumNesting` objects inside each other. The memory that decoding takes follows the length of the data.
+/// than `maximumNesting` objects inside each other. The memory that decoding takes follows the length of the data:
+/// refused are archives whose objects say over and over again that here, too, stands what stands there, and texts with
+/// attributes that could hardly be compared (dictionaries of more than a million values, expanded).
 class ORVANE_CORE_EXPORT KeyedUnarchiver final : public Coder
 {
 public:

@@ -1,20 +1,14 @@
 #include <OrvaneExportKit/platform/PropertyList.h>
 #include <tests/support/PropertyListDump.h>
+#include <tests/support/PythonInterchange.h>
 #include <tests/support/RandomPropertyLists.h>
 
 #include <gtest/gtest.h>
 
-#include <QtCore/QDir>
-#include <QtCore/QFile>
-#include <QtCore/QProcess>
-#include <QtCore/QStandardPaths>
-#include <QtCore/QTemporaryDir>
-
-#include <map>
-
 using namespace Qt::Literals::StringLiterals;
 using platform::PropertyList;
 using support::dump;
+using support::Lines;
 using support::RandomPropertyLists;
 
 namespace {
@@ -23,63 +17,15 @@ constexpr unsigned seed = 20240229;
 constexpr std::pair<PropertyList::Format, QLatin1StringView> formats[] = {{PropertyList::Format::Xml, "xml"_L1},
                                                                           {PropertyList::Format::Binary, "binary"_L1}};
 
-/// What stands in files, by their names.
-using Lines = std::map<std::string, std::string>;
-
-/// The kit on the one side, Python's `plistlib` on the other, and a folder between them.
-class PropertyListInterchange : public testing::Test
+class PropertyListInterchange : public support::PythonInterchange
 {
 protected:
-    void SetUp() override
-    {
-        m_python = QStandardPaths::findExecutable(u"python3"_s);
-        if (m_python.isEmpty()) {
-            GTEST_SKIP() << "there is no python3";
-        }
-        ASSERT_TRUE(m_folder.isValid());
-    }
-
-    void writeFile(const QString &name, const QByteArray &data) const
-    {
-        QFile file(m_folder.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        ASSERT_EQ(file.write(data), data.size());
-    }
-
-    /// What the script prints, a line for each file.
-    Lines runScript(const QStringList &arguments) const
-    {
-        QProcess script;
-        script.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        script.start(m_python, QStringList{QStringLiteral(ORVANE_PROPERTY_LIST_SCRIPT)} + arguments +
-                                   QStringList{m_folder.path()});
-        EXPECT_TRUE(script.waitForFinished(-1));
-        EXPECT_EQ(script.exitCode(), 0);
-        Lines lines;
-        for (const QByteArray &line : script.readAllStandardOutput().split('\n')) {
-            const qsizetype space = line.indexOf(' ');
-            if (space > 0) {
-                lines[line.first(space).toStdString()] = line.sliced(space + 1).toStdString();
-            }
-        }
-        return lines;
-    }
+    PropertyListInterchange() : PythonInterchange(QStringLiteral(ORVANE_PROPERTY_LIST_SCRIPT)) {}
 
     Lines readFolder() const
     {
-        Lines lines;
-        const QDir folder(m_folder.path());
-        for (const QString &name : folder.entryList(QDir::Files)) {
-            QFile file(folder.filePath(name));
-            EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-            lines[name.toStdString()] = dump(PropertyList::read(file.readAll()));
-        }
-        return lines;
+        return PythonInterchange::readFolder([](const QByteArray &data) { return dump(PropertyList::read(data)); });
     }
-
-private:
-    QString m_python;
-    QTemporaryDir m_folder;
 };
 
 TEST_F(PropertyListInterchange, PythonReadsWhatTheKitWrites)
