@@ -10,3 +10,4 @@ cmake --preset release -B build/bench -DORVANE_BUILD_TESTS=OFF -DORVANE_BUILD_EX
 cmake --build build/bench
 build/bench/benchmarks/text_benchmarks "$@"
 build/bench/benchmarks/property_list_benchmarks "$@"
+build/bench/benchmarks/sheet_benchmarks "$@"
