@@ -11,3 +11,6 @@ cmake --build build/bench
 build/bench/benchmarks/text_benchmarks "$@"
 build/bench/benchmarks/property_list_benchmarks "$@"
 build/bench/benchmarks/keyed_archive_benchmarks "$@"
+if [ -x build/bench/benchmarks/sheet_benchmarks ]; then
+    QT_QPA_PLATFORM=offscreen build/bench/benchmarks/sheet_benchmarks "$@"
+fi

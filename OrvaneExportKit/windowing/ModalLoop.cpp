@@ -134,7 +134,7 @@ void ModalLoop::beginSheet(QDialog *sheet, QWidget *window, const SheetDidEnd &d
     }
     m_sheets.insert(sheet, {didEnd, connections});
 
-    sheet->setWindowFlag(Qt::Sheet);
+    sheet->setWindowFlags((sheet->windowFlags() & ~Qt::WindowType_Mask) | Qt::Sheet);
     sheet->setWindowModality(window != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
     sheet->winId(); // makes the window handle
     sheet->windowHandle()->setTransientParent(window != nullptr ? window->window()->windowHandle() : nullptr);

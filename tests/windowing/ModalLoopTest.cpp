@@ -323,6 +323,8 @@ TEST_F(ModalLoopTest, PutsASheetOverItsWindowAndOnTheScreen)
     showSheet();
     EXPECT_EQ(m_sheet.geometry().center(), m_document.geometry().center());
     EXPECT_EQ(m_sheet.windowHandle()->transientParent(), m_document.windowHandle());
+    EXPECT_EQ(m_sheet.windowType(), Qt::Sheet);
+    EXPECT_EQ(m_sheet.windowModality(), Qt::WindowModal);
     m_sheet.hide();
 
     m_document.move(-700, -500);
