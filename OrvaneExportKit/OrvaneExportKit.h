@@ -14,10 +14,12 @@
 #include <OrvaneExportKit/platform/ErrorAlert.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/platform/GeometryStrings.h>
+#include <OrvaneExportKit/platform/KeyPaths.h>
 #include <OrvaneExportKit/platform/KeyedArchiver.h>
 #include <OrvaneExportKit/platform/KeyedObject.h>
 #include <OrvaneExportKit/platform/KeyedUnarchiver.h>
 #include <OrvaneExportKit/platform/LineRanges.h>
+#include <OrvaneExportKit/platform/NotificationCenter.h>
 #include <OrvaneExportKit/platform/OpenPanel.h>
 #include <OrvaneExportKit/platform/Paths.h>
 #include <OrvaneExportKit/platform/PropertyList.h>
@@ -27,6 +29,7 @@
 #include <OrvaneExportKit/platform/Translations.h>
 #include <OrvaneExportKit/platform/UserDefaults.h>
 #include <OrvaneExportKit/platform/ValueTransformer.h>
+#include <OrvaneExportKit/run/AbortFlag.h>
 #include <OrvaneExportKit/run/ArchivedContent.h>
 #include <OrvaneExportKit/run/ExportDocument.h>
 #include <OrvaneExportKit/run/ExportPlugin.h>

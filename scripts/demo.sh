@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds the kit with its example host and plug-in, exports both sample manuscripts and lists the files.
+# Builds the kit with its example host and plug-in, exports the sample manuscripts and lists the files.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -23,6 +23,7 @@ export_manuscript() {
 echo
 export_manuscript the-lamplighters-ledger
 export_manuscript die-gezeitenuhr --convert-spaces --quotation-language de --set line-length=66
+export_manuscript letters-from-the-breakwater
 
 first=$(find "$output/the-lamplighters-ledger" -name '001*')
 printf '\nThe first lines of "%s":\n\n' "$(basename "$first")"

@@ -3,7 +3,8 @@
 
 build_packages=(build-essential cmake ninja-build ccache
                 qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev libgl-dev)
-test_packages=(libgtest-dev clang libclang-rt-14-dev clang-format clang-tidy python3)
+test_packages=(libgtest-dev clang libclang-rt-14-dev clang-format clang-tidy python3
+               tidy texlive-latex-base)
 bench_packages=(libbenchmark-dev)
 
 # Installs those of the given packages that are not there; asks for the password of sudo where it is needed.

@@ -2,6 +2,7 @@
 
 #include <OrvaneExportKit/ExportMacros.h>
 #include <OrvaneExportKit/platform/AttributedString.h>
+#include <OrvaneExportKit/platform/Bundle.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/run/ExportDocument.h>
 #include <OrvaneExportKit/settings/KZExportSettings.h>
@@ -9,6 +10,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <QtCore/QtPlugin>
 
 /// An export format, loaded by a host as a Qt plug-in.
@@ -32,6 +34,12 @@ public:
         QString key;          ///< how the choice is named, lower-case words joined by hyphens: "line-length"
         QString defaultValue; ///< what holds unless the host sets something else, as text
         QString description;  ///< one line: what it does and which values it takes
+    };
+
+    /// A document and the name of the file that it became, without its folder.
+    struct ExportedFile {
+        const ExportDocument *document; ///< not null
+        QString fileName;
     };
 
     ExportPlugin() = default;
@@ -63,8 +71,22 @@ public:
     /// The content of the file that one document becomes, with the choices that the settings hold. May throw; the host
     /// then reports the document and what the exception says.
     virtual QByteArray exportedData(const ExportDocument &document, const platform::AttributedString &text) const = 0;
+
+    /// The names of the files that the plug-in adds to those of the documents, in the same folder: "index.html". A host
+    /// asks before the export begins, and treats these files as it does the documents'. None unless overridden.
+    virtual QStringList additionalFileNames() const;
+
+    /// The content of one of the additional files. `title` is that of the manuscript, `files` are those that its
+    /// documents became, in their order. May throw as `exportedData` may. Empty unless overridden.
+    virtual QByteArray additionalFileData(const QString &fileName, const QString &title,
+                                          const QList<ExportedFile> &files) const;
+
+    /// Where the plug-in's resources are. A host that has windows shows the interface file "Panel.ui" of this bundle as
+    /// the plug-in's settings panel, and binds its controls to key paths that begin with "settings". The null bundle,
+    /// for a plug-in without a panel, unless overridden.
+    virtual platform::Bundle bundle() const;
 };
 
 /// The version of the interface above. It changes when a plug-in that was built against another one can't be used.
-#define ExportPlugin_iid "OrvaneExportKit.ExportPlugin/1"
+#define ExportPlugin_iid "OrvaneExportKit.ExportPlugin/2"
 Q_DECLARE_INTERFACE(ExportPlugin, ExportPlugin_iid)

@@ -67,7 +67,7 @@ void requireValue(const char *operation, const QVariant &value, const QString &k
 } // namespace
 
 KZExportSettings::KZExportSettings(const QString &bundleIdentifier, QObject *parent)
-    : QObject(parent), m_bundleIdentifier(bundleIdentifier)
+    : KeyValueCoding(parent), m_bundleIdentifier(bundleIdentifier)
 {
     registerTransformers(measurementUnitFactor());
 }

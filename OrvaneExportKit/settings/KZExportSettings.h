@@ -2,10 +2,10 @@
 
 #include <OrvaneExportKit/ExportMacros.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/platform/KeyPaths.h>
 #include <OrvaneExportKit/settings/SettingsKeys.h>
 
 #include <QtCore/QByteArray>
-#include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
@@ -25,7 +25,7 @@
 /// Keys that a version of the plug-in does not know stay through every load and save. Where a conversion to or from a
 /// property list fails, the error goes to `platform::alertError`, and what survives is said at each operation.
 /// For use on the application's main thread.
-class ORVANE_CORE_EXPORT KZExportSettings : public QObject
+class ORVANE_CORE_EXPORT KZExportSettings : public platform::KeyValueCoding
 {
     Q_OBJECT
     Q_CLASSINFO("BundleIdentifier", "org.orvane.ExportKit")
@@ -72,7 +72,7 @@ public:
     void setDefaultDictionary(const QVariantMap &dictionary);
 
     /// The value stored under a key, whatever the key's name; an invalid `QVariant` when there is none.
-    QVariant valueForKey(const QString &key) const;
+    QVariant valueForKey(const QString &key) const override;
     QVariant objectForKey(const QString &key) const; ///< the same
 
     /// The value that `setNonPropertyListObject` stored. An invalid `QVariant` when the key is missing or holds
@@ -92,7 +92,7 @@ public:
     /// Stores a value and tells observers: `willChangeValueForKey` goes out before, `didChangeValueForKey` after.
     /// No other writer tells anybody. Throws `platform::InvalidArgumentException` for an invalid or null value (the
     /// first of the two signals has gone out by then), as do the other two writers of objects.
-    void setValue(const QVariant &value, const QString &key);
+    void setValue(const QVariant &value, const QString &key) override;
     void setObject(const QVariant &value, const QString &key); ///< stores a value silently
 
     /// Stores the archive of a value that is not a property-list value, such as a font. Throws
@@ -110,10 +110,6 @@ public:
     /// Turns a quotation style number, 0 to 5, stored under the key into the language code with the same marks; any
     /// other number stays. A missing key and a string read as 0, so call it only while the value is a number.
     void updateQuotationSettingForKey(const QString &key);
-
-Q_SIGNALS:
-    void willChangeValueForKey(const QString &key); ///< a value is about to be stored by `setValue`
-    void didChangeValueForKey(const QString &key);  ///< it has been stored
 
 private:
     QString m_bundleIdentifier;

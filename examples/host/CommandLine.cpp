@@ -15,8 +15,9 @@ namespace {
 constexpr QStringView description = uR"(
 Exports the documents of a manuscript, one file each, in the format of a plug-in.
 
-A manuscript is a folder with the documents as UTF-8 text files and a file
-manuscript.json that names them in their order:
+A manuscript is a folder with the documents, as UTF-8 text files or as keyed
+archives of a text (NAME.archive), and a file manuscript.json that names them in
+their order:
 
   {"title": "A Book",
    "documents": [{"file": "one.txt", "name": "One",

@@ -7,8 +7,9 @@
 #include "PluginSettings.h"
 #include "Terminal.h"
 
+#include <OrvaneExportKit/platform/Paths.h>
+
 #include <QtCore/QSaveFile>
-#include <QtCore/QScopeGuard>
 
 #include <algorithm>
 #include <exception>
@@ -19,20 +20,22 @@ namespace host {
 
 namespace {
 
-HostError pluginFailure(const ExportPlugin &plugin, const ManuscriptDocument &document, const QString &reason)
+HostError pluginFailure(const ExportPlugin &plugin, const QString &part, const QString &reason)
 {
-    return {ExitCode::Plugin, u"the plug-in %1 failed on the document %2: %3; change the document or the plug-in's "
-                              "choices, and export again"_s.arg(plugin.name(), quoted(document.name()), reason)};
+    return {ExitCode::Plugin, u"the plug-in %1 failed on %2: %3; change the document or the plug-in's "
+                              "choices, and export again"_s.arg(plugin.name(), part, reason)};
 }
 
-QByteArray exportedData(const ExportPlugin &plugin, const ManuscriptDocument &document)
+/// What the plug-in makes; an exception of its own becomes an error that names the part of the export.
+template <typename Make>
+QByteArray madeBy(const ExportPlugin &plugin, const QString &part, const Make &make)
 {
     try {
-        return plugin.exportedData(document, document.text());
+        return make();
     } catch (const std::exception &exception) {
-        throw pluginFailure(plugin, document, printable(QString::fromUtf8(exception.what())));
+        throw pluginFailure(plugin, part, printable(QString::fromUtf8(exception.what())));
     } catch (...) {
-        throw pluginFailure(plugin, document, u"it does not say why"_s);
+        throw pluginFailure(plugin, part, u"it does not say why"_s);
     }
 }
 
@@ -60,33 +63,76 @@ void writeFile(const QString &path, const QByteArray &content)
     }
 }
 
-void reportWritten(const QStringList &paths, qsizetype documentCount, const QString &title, const QString &folder)
+/// Writes the files of one export, and tells at its end which were written, however it ends.
+class Export
 {
-    for (const QString &path : paths) {
-        printResult(path + u'\n');
+public:
+    Export(const Manuscript &manuscript, const ExportPlugin &plugin, const OutputPaths &paths, const QString &folder)
+        : m_manuscript(manuscript), m_plugin(plugin), m_paths(paths), m_folder(folder)
+    {
     }
-    const QString documents = counted(documentCount, u"document"_s);
-    const QString exported = paths.size() == documentCount ? documents : u"%1 of %2"_s.arg(paths.size()).arg(documents);
-    printMessage(u"Exported %1 of %2 to %3."_s.arg(exported, quoted(title), quoted(folder)));
-}
+    Export(const Export &) = delete;
+    Export &operator=(const Export &) = delete;
 
-void writeDocuments(const Manuscript &manuscript, const ExportPlugin &plugin, const QStringList &paths,
-                    const QString &folder)
-{
-    qsizetype written = 0;
-    const auto report =
-        qScopeGuard([&] { reportWritten(paths.first(written), paths.size(), manuscript.title, folder); });
-    const InterruptionWatch interruptions;
-    const ProgressLine progress;
-    for (const ManuscriptDocument &document : manuscript.documents) {
-        if (interruptions.wasInterrupted()) {
-            throw HostError(ExitCode::Interrupted, u"the export was interrupted; export again for the rest"_s);
+    ~Export()
+    {
+        for (const QString &path : m_written) {
+            printResult(path + u'\n');
         }
-        progress.show(u"%1/%2 %3"_s.arg(written + 1).arg(paths.size()).arg(printable(document.name())));
-        writeFile(paths[written], exportedData(plugin, document));
-        ++written;
+        const qsizetype done = std::min(m_written.size(), m_paths.documents.size());
+        const QString documents = counted(m_paths.documents.size(), u"document"_s);
+        const QString exported = done == m_paths.documents.size() ? documents : u"%1 of %2"_s.arg(done).arg(documents);
+        printMessage(u"Exported %1 of %2 to %3."_s.arg(exported, quoted(m_manuscript.title), quoted(m_folder)));
     }
-}
+
+    void writeDocuments()
+    {
+        const InterruptionWatch interruptions;
+        const ProgressLine progress;
+        for (const ManuscriptDocument &document : m_manuscript.documents) {
+            if (interruptions.wasInterrupted()) {
+                throw HostError(ExitCode::Interrupted, u"the export was interrupted; export again for the rest"_s);
+            }
+            const QString &path = m_paths.documents[m_written.size()];
+            progress.show(
+                u"%1/%2 %3"_s.arg(m_written.size() + 1).arg(m_paths.documents.size()).arg(printable(document.name())));
+            write(path, madeBy(m_plugin, u"the document "_s + quoted(document.name()),
+                               [&] { return m_plugin.exportedData(document, document.text()); }));
+        }
+    }
+
+    void writeAdditionalFiles()
+    {
+        const QList<ExportPlugin::ExportedFile> documentFiles = exportedFiles();
+        for (const QString &path : m_paths.additional) {
+            const QString name = platform::lastPathComponent(path);
+            write(path, madeBy(m_plugin, u"the file "_s + quoted(name),
+                               [&] { return m_plugin.additionalFileData(name, m_manuscript.title, documentFiles); }));
+        }
+    }
+
+private:
+    void write(const QString &path, const QByteArray &content)
+    {
+        writeFile(path, content);
+        m_written.append(path);
+    }
+
+    QList<ExportPlugin::ExportedFile> exportedFiles() const
+    {
+        QList<ExportPlugin::ExportedFile> files;
+        for (const ManuscriptDocument &document : m_manuscript.documents) {
+            files.append({&document, platform::lastPathComponent(m_paths.documents[files.size()])});
+        }
+        return files;
+    }
+
+    const Manuscript &m_manuscript;
+    const ExportPlugin &m_plugin;
+    const OutputPaths &m_paths;
+    const QString &m_folder;
+    QStringList m_written;
+};
 
 } // namespace
 
@@ -95,8 +141,11 @@ void runExport(const ExportRequest &request, const PluginFolder &plugins)
     ExportPlugin &plugin = plugins.pluginNamed(request.pluginName);
     prepareSettings(plugin, request);
     const Manuscript manuscript = readManuscript(request.manuscriptFolder);
-    const QStringList paths = outputPaths(request, manuscript, request.extension.value_or(plugin.pathExtension()));
-    writeDocuments(manuscript, plugin, paths, destinationFolder(request));
+    const OutputPaths paths = outputPaths(request, manuscript, plugin);
+    const QString folder = destinationFolder(request);
+    Export run(manuscript, plugin, paths, folder);
+    run.writeDocuments();
+    run.writeAdditionalFiles();
 }
 
 } // namespace host

@@ -4,7 +4,8 @@
 
 namespace host {
 
-ManuscriptDocument::ManuscriptDocument(Entry entry, const QString &text) : m_entry(std::move(entry)), m_text(text)
+ManuscriptDocument::ManuscriptDocument(Entry entry, platform::AttributedString text)
+    : m_entry(std::move(entry)), m_text(std::move(text))
 {
 }
 

@@ -13,13 +13,13 @@ class ManuscriptDocument final : public ExportDocument
 public:
     /// What manuscript.json says about a document.
     struct Entry {
-        QString path; ///< of the file with the text
+        QString path; ///< of the file that holds the text
         QString name;
         QString status;
         QString label;
     };
 
-    ManuscriptDocument(Entry entry, const QString &text);
+    ManuscriptDocument(Entry entry, platform::AttributedString text);
 
     QString name() const override;
     QString status() const override;

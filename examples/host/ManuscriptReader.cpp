@@ -1,80 +1,25 @@
 #include "ManuscriptReader.h"
 
+#include "DocumentText.h"
 #include "HostError.h"
+#include "ManuscriptFile.h"
 #include "Messages.h"
 
 #include <OrvaneExportKit/platform/Paths.h>
 
 #include <QtCore/QByteArray>
 #include <QtCore/QDir>
-#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QList>
-#include <QtCore/QStringDecoder>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace host {
 
 namespace {
-
-HostError manuscriptError(const QString &message)
-{
-    return {ExitCode::Manuscript, message};
-}
-
-/// A place in a file as text editors count it: "line 3, column 14".
-QString placeAt(const QByteArray &content, qsizetype offset)
-{
-    const QByteArray before = content.first(offset);
-    const qsizetype lineStart = before.lastIndexOf('\n') + 1;
-    return u"line %1, column %2"_s.arg(before.count('\n') + 1)
-        .arg(QString::fromUtf8(before.sliced(lineStart)).size() + 1);
-}
-
-/// The index of the first byte that is not part of UTF-8 text, for a content that has one.
-qsizetype firstBadByte(const QByteArray &content)
-{
-    QStringDecoder decoder(QStringDecoder::Utf8);
-    qsizetype index = 0;
-    while (index < content.size()) {
-        const QString decoded = decoder(QByteArrayView(content).sliced(index, 1));
-        if (decoder.hasError()) {
-            break;
-        }
-        ++index;
-    }
-    return index;
-}
-
-QByteArray fileContent(const QString &path)
-{
-    QFile file(path);
-    QByteArray content;
-    if (file.open(QIODevice::ReadOnly)) {
-        content = file.readAll();
-    }
-    if (file.error() != QFileDevice::NoError) {
-        throw manuscriptError(u"%1 can't be read: %2; check that it is there and that you may read it"_s.arg(
-            quoted(path), file.errorString()));
-    }
-    return content;
-}
-
-QString documentText(const QString &path)
-{
-    const QByteArray content = fileContent(path);
-    if (!content.isValidUtf8()) {
-        const qsizetype offset = firstBadByte(content);
-        throw manuscriptError(u"%1 is no UTF-8 text from byte %2 on (%3); save the file as UTF-8"_s.arg(
-            quoted(path), QString::number(offset), placeAt(content, offset)));
-    }
-    QStringDecoder decoder(QStringDecoder::Utf8); // drops a byte order mark
-    return decoder(content);
-}
 
 /// An object of manuscript.json and how messages call it.
 struct JsonPart {

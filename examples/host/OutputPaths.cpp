@@ -64,12 +64,29 @@ QStringList pathsByPattern(const ExportRequest &request, const Manuscript &manus
                                                             request.convertSpaces, extension);
 }
 
+QStringList additionalPaths(const QString &folder, const ExportPlugin &plugin)
+{
+    QStringList paths;
+    for (const QString &name : plugin.additionalFileNames()) {
+        paths.append(platform::appendingPathComponent(folder, name));
+    }
+    return paths;
+}
+
+/// What becomes the file of an index: the documents come first, then what the plug-in adds.
+QString originOfFile(qsizetype index, const Manuscript &manuscript)
+{
+    const auto document = static_cast<std::size_t>(index);
+    return document < manuscript.documents.size()
+               ? u"document %1, %2"_s.arg(index + 1).arg(quoted(manuscript.documents[document].name()))
+               : u"the plug-in's own file"_s;
+}
+
 void refuseRepeatedPaths(const QStringList &paths, const Manuscript &manuscript)
 {
     QStringList lines;
     for (const platform::PathFinding &repeated : platform::repeatedPaths(paths)) {
-        const QString name = manuscript.documents[static_cast<std::size_t>(repeated.index)].name();
-        lines.append(u"document %1, %2: %3"_s.arg(repeated.index + 1).arg(quoted(name), quoted(repeated.path)));
+        lines.append(originOfFile(repeated.index, manuscript) + u": "_s + quoted(repeated.path));
     }
     if (!lines.isEmpty()) {
         throw outputError(u"several documents would become the same file; put <1> into the pattern:"_s + listed(lines));
@@ -140,10 +157,14 @@ QString destinationFolder(const ExportRequest &request)
     return namesFolder(request) ? request.destination : platform::deletingLastPathComponent(request.destination);
 }
 
-QStringList outputPaths(const ExportRequest &request, const Manuscript &manuscript, const QString &extension)
+OutputPaths outputPaths(const ExportRequest &request, const Manuscript &manuscript, const ExportPlugin &plugin)
 {
     requireWritableFolder(request);
-    QStringList paths = pathsByPattern(request, manuscript, extension);
+    const OutputPaths result{
+        pathsByPattern(request, manuscript, request.extension.value_or(plugin.pathExtension())),
+        additionalPaths(destinationFolder(request), plugin),
+    };
+    const QStringList paths = result.documents + result.additional;
     refuseRepeatedPaths(paths, manuscript);
     const QList<platform::PathFinding> existing = platform::existingPaths(paths);
     refuseFolders(existing);
@@ -152,7 +173,7 @@ QStringList outputPaths(const ExportRequest &request, const Manuscript &manuscri
     if (!existing.isEmpty() && !request.replaceFiles) {
         confirmReplacing(existing);
     }
-    return paths;
+    return result;
 }
 
 } // namespace host

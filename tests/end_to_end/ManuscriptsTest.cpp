@@ -56,6 +56,16 @@ TEST_F(SampleManuscript, EnglishWithDefaults)
                  });
 }
 
+TEST_F(SampleManuscript, WithArchivedDocuments)
+{
+    expectExport(u"letters-from-the-breakwater"_s, {},
+                 {
+                     {u"001 Before the Season.txt"_s, u"01-before-the-season.txt"_s},
+                     {u"002 The First Gale.txt"_s, u"02-the-first-gale.txt"_s},
+                     {u"003 What the Tide Left.txt"_s, u"03-what-the-tide-left.txt"_s},
+                 });
+}
+
 TEST_F(SampleManuscript, GermanWithGermanQuotesShortLinesAndNoEmptyLines)
 {
     expectExport(u"die-gezeitenuhr"_s,

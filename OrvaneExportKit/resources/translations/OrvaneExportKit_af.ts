@@ -2,6 +2,49 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="af" sourcelanguage="en_US">
 <context>
+    <name>ExistingFiles</name>
+    <message>
+        <source>Replace Existing Files?</source>
+        <translation>Bestaande lêers vervang?</translation>
+    </message>
+    <message>
+        <source>The folder “%@” already contains the items below. If you replace them, their current contents are lost.</source>
+        <extracomment>%@ is the name of a folder.</extracomment>
+        <translation>Die vouer “%@” bevat reeds die items hieronder. As jy hulle vervang, gaan hul huidige inhoud verlore.</translation>
+    </message>
+    <message>
+        <source>Existing items</source>
+        <translation>Bestaande items</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Kanselleer</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Vervang</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>K&amp;opieer</translation>
+    </message>
+</context>
+<context>
+    <name>ExportProgress</name>
+    <message>
+        <source>Export</source>
+        <translation>Uitvoer</translation>
+    </message>
+    <message>
+        <source>Progress of the export</source>
+        <translation>Vordering van die uitvoer</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Staak</translation>
+    </message>
+</context>
+<context>
     <name>FileNameChecks</name>
     <message>
         <source>The name is empty.</source>

@@ -2,6 +2,49 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_CH" sourcelanguage="en_US">
 <context>
+    <name>ExistingFiles</name>
+    <message>
+        <source>Replace Existing Files?</source>
+        <translation>Vorhandene Dateien ersetzen?</translation>
+    </message>
+    <message>
+        <source>The folder “%@” already contains the items below. If you replace them, their current contents are lost.</source>
+        <extracomment>%@ is the name of a folder.</extracomment>
+        <translation>Der Ordner «%@» enthält bereits die unten stehenden Objekte. Wenn Sie sie ersetzen, geht ihr bisheriger Inhalt verloren.</translation>
+    </message>
+    <message>
+        <source>Existing items</source>
+        <translation>Vorhandene Objekte</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>K&amp;opieren</translation>
+    </message>
+</context>
+<context>
+    <name>ExportProgress</name>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Progress of the export</source>
+        <translation>Fortschritt des Exports</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>FileNameChecks</name>
     <message>
         <source>The name is empty.</source>

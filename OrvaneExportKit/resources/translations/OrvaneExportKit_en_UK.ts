@@ -2,6 +2,49 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_GB" sourcelanguage="en_US">
 <context>
+    <name>ExistingFiles</name>
+    <message>
+        <source>Replace Existing Files?</source>
+        <translation>Replace Existing Files?</translation>
+    </message>
+    <message>
+        <source>The folder “%@” already contains the items below. If you replace them, their current contents are lost.</source>
+        <extracomment>%@ is the name of a folder.</extracomment>
+        <translation>The folder ‘%@’ already contains the items below. If you replace them, their current contents are lost.</translation>
+    </message>
+    <message>
+        <source>Existing items</source>
+        <translation>Existing items</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Replace</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>C&amp;opy</translation>
+    </message>
+</context>
+<context>
+    <name>ExportProgress</name>
+    <message>
+        <source>Export</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>Progress of the export</source>
+        <translation>Progress of the export</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Abort</translation>
+    </message>
+</context>
+<context>
     <name>FileNameChecks</name>
     <message>
         <source>The name is empty.</source>

@@ -2,6 +2,49 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en_US">
 <context>
+    <name>ExistingFiles</name>
+    <message>
+        <source>Replace Existing Files?</source>
+        <translation>Remplacer les fichiers existants ?</translation>
+    </message>
+    <message>
+        <source>The folder “%@” already contains the items below. If you replace them, their current contents are lost.</source>
+        <extracomment>%@ is the name of a folder.</extracomment>
+        <translation>Le dossier « %@ » contient déjà les éléments ci-dessous. Si vous les remplacez, leur contenu actuel sera perdu.</translation>
+    </message>
+    <message>
+        <source>Existing items</source>
+        <translation>Éléments existants</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>A&amp;nnuler</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Remplacer</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>C&amp;opier</translation>
+    </message>
+</context>
+<context>
+    <name>ExportProgress</name>
+    <message>
+        <source>Export</source>
+        <translation>Exportation</translation>
+    </message>
+    <message>
+        <source>Progress of the export</source>
+        <translation>Progression de l’exportation</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Interrompre</translation>
+    </message>
+</context>
+<context>
     <name>FileNameChecks</name>
     <message>
         <source>The name is empty.</source>

@@ -2,6 +2,49 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en_US">
 <context>
+    <name>ExistingFiles</name>
+    <message>
+        <source>Replace Existing Files?</source>
+        <translation>Sostituire i file esistenti?</translation>
+    </message>
+    <message>
+        <source>The folder “%@” already contains the items below. If you replace them, their current contents are lost.</source>
+        <extracomment>%@ is the name of a folder.</extracomment>
+        <translation>La cartella «%@» contiene già gli elementi elencati sotto. Se li sostituisci, il loro contenuto attuale andrà perso.</translation>
+    </message>
+    <message>
+        <source>Existing items</source>
+        <translation>Elementi esistenti</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>A&amp;nnulla</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Sostituisci</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>C&amp;opia</translation>
+    </message>
+</context>
+<context>
+    <name>ExportProgress</name>
+    <message>
+        <source>Export</source>
+        <translation>Esportazione</translation>
+    </message>
+    <message>
+        <source>Progress of the export</source>
+        <translation>Avanzamento dell’esportazione</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Interrompi</translation>
+    </message>
+</context>
+<context>
     <name>FileNameChecks</name>
     <message>
         <source>The name is empty.</source>

@@ -2,6 +2,49 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="sv" sourcelanguage="en_US">
 <context>
+    <name>ExistingFiles</name>
+    <message>
+        <source>Replace Existing Files?</source>
+        <translation>Ersätta befintliga filer?</translation>
+    </message>
+    <message>
+        <source>The folder “%@” already contains the items below. If you replace them, their current contents are lost.</source>
+        <extracomment>%@ is the name of a folder.</extracomment>
+        <translation>Mappen ”%@” innehåller redan objekten nedan. Om du ersätter dem går deras nuvarande innehåll förlorat.</translation>
+    </message>
+    <message>
+        <source>Existing items</source>
+        <translation>Befintliga objekt</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Avbryt</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersätt</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>K&amp;opiera</translation>
+    </message>
+</context>
+<context>
+    <name>ExportProgress</name>
+    <message>
+        <source>Export</source>
+        <translation>Exportera</translation>
+    </message>
+    <message>
+        <source>Progress of the export</source>
+        <translation>Exportens förlopp</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Avbryt</translation>
+    </message>
+</context>
+<context>
     <name>FileNameChecks</name>
     <message>
         <source>The name is empty.</source>

@@ -1,0 +1,126 @@
+#pragma once
+
+#include <OrvaneExportKit/ExportMacros.h>
+#include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/platform/KeyPaths.h>
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+#include <QtCore/QStringList>
+#include <QtCore/QVariant>
+#include <QtWidgets/QWidget>
+
+#include <memory>
+#include <optional>
+
+namespace windowing {
+
+class ControlValue;
+
+/// What a binding does beside copying a value.
+struct BindingOptions {
+    /// The name of the value transformer between the stored and the shown value; empty for none. It is looked up at
+    /// every use, so that the one registered last is in force.
+    QString valueTransformerName = {};
+
+    /// What the control shows for a stored value that is missing. Fields with a place-holder text show it as that.
+    QVariant nullPlaceholder = {};
+};
+
+/// What a value of a control is bound to.
+struct BindingInfo {
+    QObject *observedObject; ///< the controller; null when it is gone
+    QString observedKeyPath;
+    BindingOptions options;
+};
+
+/// Ties one value of a control to a key path of a controller: the control shows the value and follows its changes, and
+/// what the user enters is stored.
+///
+///     new windowing::Binding(topMarginField, u"value"_s, controller, u"settings.margin.top"_s,
+///                            {.valueTransformerName = u"KZMeasurementUnitTransformer"_s});
+///
+/// The name is that of a Qt property of the control, or one of these:
+///
+/// | control            | name          | value                                                                       |
+/// |--------------------|---------------|-----------------------------------------------------------------------------|
+/// | combo box          | `currentData` | the data of the chosen entry. In an interface file, the string-list property
+/// | |                    |               | `itemData` of the combo box gives the entries their data | | radio button,
+/// any  | `selectedTag` | the property `tag` of the button that is checked, so that the buttons of a   | | button | |
+/// group share one key path                                                    |
+///
+/// Changes are followed of settings objects (`didChangeValueForKey`) and of Qt properties with a NOTIFY signal, also
+/// when an object on the way is exchanged. What the user changes is stored when the edit ends where text is typed (line
+/// edits, text edits, token fields, combo boxes: on Return and when the focus leaves), and at once elsewhere, by the
+/// property's NOTIFY signal; a spin box says with `keyboardTracking` which of the two it does. A property without that
+/// signal is shown only, as is one behind a transformer without a way back. Storing does not come back to the control
+/// as a change, and an edit that ends with the text that was shown stores nothing.
+///
+/// A number shown in a text field is written as the field's locale does, and typed text is read back so; text that is
+/// no number is then refused, and the field shows the stored value again. So it does where the transformer or the
+/// controller refuses a value. A `QSizeF` is stored as the string "{width, height}", a string list as a list.
+///
+/// The binding belongs to the control. For use on the application's main thread.
+class ORVANE_KIT_EXPORT Binding : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Binds, in place of an earlier binding of the same name, and shows the value.
+    /// Throws `platform::InvalidArgumentException`, and leaves an earlier binding as it is, when the control has no
+    /// such value, the key path does not exist, or no transformer has the name.
+    Binding(QWidget *control, const QString &name, QObject *controller, const QString &keyPath,
+            const BindingOptions &options = {});
+    ~Binding() override;
+
+    QString name() const { return m_name; }
+    BindingInfo info() const { return {m_controller, m_keyPath, m_options}; }
+
+public Q_SLOTS:
+    /// Shows the stored value again, for changes that nobody was told of.
+    void refresh();
+
+    /// Stores what the control shows, unless that is what was shown or stored last.
+    void commit();
+
+private:
+    void observe();
+    void show(const QVariant &stored);
+    QVariant shownValue(const QVariant &stored);
+    QVariant storedValue(const QVariant &shown) const;
+
+    QString m_name;
+    QPointer<QObject> m_controller;
+    QString m_keyPath;
+    BindingOptions m_options;
+    std::unique_ptr<ControlValue> m_value;
+    QList<QMetaObject::Connection> m_connections;
+    QVariant m_lastValue;
+    QMetaType m_shownNumber; ///< the type of the number that a text field shows; invalid when it shows a text
+    bool m_isBusy = false;   ///< what happens now comes from this binding
+
+private Q_SLOTS:
+    void keyPathChanged();
+};
+
+/// What a value of a control is bound to, or nothing.
+///
+///     if (const auto info = windowing::infoForBinding(field, u"selectedFontAttributes"_s)) {
+///         platform::setValueForKeyPath(info->observedObject, attributes, info->observedKeyPath);
+///     }
+ORVANE_KIT_EXPORT std::optional<BindingInfo> infoForBinding(const QWidget *control, const QString &name);
+
+/// Makes known that a class of controls has a value of this name that is worth binding, for tools and panels that list
+/// them. A class does it once, when its library is loaded:
+///
+///     const bool exposed = [] {
+///         windowing::exposeBinding(KZPageView::staticMetaObject, u"paperSize"_s);
+///         return true;
+///     }();
+ORVANE_KIT_EXPORT void exposeBinding(const QMetaObject &controlClass, const QString &name);
+
+/// The values that a class and its base classes have exposed, those of the base classes first, each in their order.
+ORVANE_KIT_EXPORT QStringList exposedBindings(const QMetaObject &controlClass);
+
+} // namespace windowing

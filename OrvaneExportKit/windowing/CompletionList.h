@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QtCore/QStringList>
+#include <QtCore/QStringListModel>
+#include <QtWidgets/QListView>
+
+namespace windowing {
+
+/// A list that hangs below the cursor of an editor while the user types. It takes neither the focus nor a key: input
+/// methods and the keyboard stay with the editor, which moves the highlight.
+class CompletionList final : public QListView
+{
+    Q_OBJECT
+
+public:
+    explicit CompletionList(QWidget *editor);
+
+    /// Shows the strings below (or, where there is no room, above) a rectangle of the screen, with one of them
+    /// highlighted, or none for -1.
+    void showStrings(const QStringList &strings, int highlighted, const QRect &place);
+
+    /// Moves the highlight by some rows, around the ends.
+    void moveHighlight(int rows);
+
+    /// The highlighted string, or a null one.
+    QString highlightedString() const;
+
+    QString firstString() const { return m_strings.stringList().value(0); }
+
+Q_SIGNALS:
+    void picked(const QString &string); ///< clicked by the user
+
+private:
+    QStringListModel m_strings;
+};
+
+} // namespace windowing

@@ -1,0 +1,7 @@
+#include <OrvaneExportKit/windowing/TokenFieldDelegate.h>
+
+namespace windowing {
+
+TokenFieldDelegate::~TokenFieldDelegate() = default;
+
+} // namespace windowing

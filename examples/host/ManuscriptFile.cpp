@@ -1,0 +1,38 @@
+#include "ManuscriptFile.h"
+
+#include "Messages.h"
+
+#include <QtCore/QFile>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace host {
+
+HostError manuscriptError(const QString &message)
+{
+    return {ExitCode::Manuscript, message};
+}
+
+QByteArray fileContent(const QString &path)
+{
+    QFile file(path);
+    QByteArray content;
+    if (file.open(QIODevice::ReadOnly)) {
+        content = file.readAll();
+    }
+    if (file.error() != QFileDevice::NoError) {
+        throw manuscriptError(u"%1 can't be read: %2; check that it is there and that you may read it"_s.arg(
+            quoted(path), file.errorString()));
+    }
+    return content;
+}
+
+QString placeAt(const QByteArray &content, qsizetype offset)
+{
+    const QByteArray before = content.first(offset);
+    const qsizetype lineStart = before.lastIndexOf('\n') + 1;
+    return u"line %1, column %2"_s.arg(before.count('\n') + 1)
+        .arg(QString::fromUtf8(before.sliced(lineStart)).size() + 1);
+}
+
+} // namespace host

@@ -1,0 +1,529 @@
+#include <OrvaneExportKit/controls/KZTokenFieldDelegate.h>
+#include <OrvaneExportKit/windowing/Binding.h>
+#include <OrvaneExportKit/windowing/TokenField.h>
+#include <tests/support/PanelController.h>
+#include <tests/support/Printers.h>
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QMimeData>
+#include <QtGui/QAccessible>
+#include <QtGui/QClipboard>
+#include <QtGui/QInputMethodEvent>
+#include <QtGui/QTextBlock>
+#include <QtGui/QTextLayout>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListView>
+#include <QtWidgets/QTextEdit>
+#include <QtWidgets/QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+using windowing::TokenField;
+
+namespace {
+
+/// A window with a field for file names that knows Label, Name, Number and "Name of the Folder", and another field.
+class TokenFields : public testing::Test
+{
+protected:
+    TokenFields()
+    {
+        auto *layout = new QVBoxLayout(&m_window);
+        layout->addWidget(&m_field);
+        layout->addWidget(&m_otherField);
+        m_field.setDelegate(&m_delegate);
+        m_window.resize(400, 100);
+        m_window.show();
+        m_window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        m_field.setFocus();
+    }
+
+    QTextEdit &editor() { return *m_field.findChild<QTextEdit *>(); }
+    QListView &list() { return *m_field.findChild<QListView *>(); }
+
+    QStringList offered()
+    {
+        QStringList strings;
+        for (int row = 0; list().isVisible() && row < list().model()->rowCount(); ++row) {
+            strings.append(list().model()->index(row, 0).data().toString());
+        }
+        return strings;
+    }
+
+    void type(const QString &text) { QTest::keyClicks(&editor(), text); }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&editor(), key, modifiers); }
+
+    void compose(const QString &preedit, const QString &committed = {})
+    {
+        QInputMethodEvent event(preedit, {});
+        event.setCommitString(committed);
+        QApplication::sendEvent(&editor(), &event);
+    }
+
+    void select(int from, int to)
+    {
+        QTextCursor cursor = editor().textCursor();
+        cursor.setPosition(from);
+        cursor.setPosition(to, QTextCursor::KeepAnchor);
+        editor().setTextCursor(cursor);
+    }
+
+    /// Where the character at a position stands in the viewport.
+    QPoint centreOf(int position)
+    {
+        QTextCursor cursor = editor().textCursor();
+        cursor.setPosition(position);
+        const QRect start = editor().cursorRect(cursor);
+        cursor.setPosition(position + 1);
+        return (start.center() + editor().cursorRect(cursor).center()) / 2;
+    }
+
+    KZTokenFieldDelegate m_delegate{
+        {{u"<1>"_s, u"Number"_s}, {u"<2>"_s, u"Name"_s}, {u"<4>"_s, u"Label"_s}, {u"<5>"_s, u"Name of the Folder"_s}}};
+    QWidget m_window;
+    TokenField m_field;
+    QLineEdit m_otherField;
+};
+
+TEST_F(TokenFields, ShowTokensBetweenText)
+{
+    m_field.setValue({u"<2>"_s, u", "_s, u"<1>"_s});
+    EXPECT_EQ(m_field.value(), (QStringList{u"<2>"_s, u", "_s, u"<1>"_s}));
+    EXPECT_EQ(m_field.displayText(), u"Name, Number"_s);
+    EXPECT_EQ(editor().toPlainText().size(), 4);
+}
+
+TEST_F(TokenFields, ShowElementsThatTheDelegateDoesNotKnowAsText)
+{
+    m_field.setValue({u"Chapter "_s, u"<9>"_s});
+    EXPECT_EQ(editor().toPlainText(), u"Chapter <9>"_s);
+    EXPECT_EQ(m_field.value(), QStringList{u"Chapter <9>"_s});
+}
+
+TEST_F(TokenFields, ShowATokenThatIsItsOwnDisplayString)
+{
+    const KZTokenFieldDelegate delegate({{u"Date"_s, u"Date"_s}});
+    m_field.setDelegate(const_cast<KZTokenFieldDelegate *>(&delegate));
+    m_field.setValue({u"Date"_s, u"Data"_s});
+    EXPECT_EQ(editor().toPlainText(), QString(QChar::ObjectReplacementCharacter) + u"Data"_s);
+}
+
+TEST_F(TokenFields, KeepTheirValueWhenTheyGetADelegate)
+{
+    m_field.setDelegate(nullptr);
+    m_field.setValue({u"<2>"_s});
+    EXPECT_EQ(editor().toPlainText(), u"<2>"_s);
+    const QSignalSpy changes(&m_field, &TokenField::valueChanged);
+    m_field.setDelegate(&m_delegate);
+    EXPECT_EQ(m_field.displayText(), u"Name"_s);
+    EXPECT_EQ(m_field.value(), QStringList{u"<2>"_s});
+    EXPECT_EQ(changes.count(), 0);
+}
+
+TEST_F(TokenFields, TellAboutEveryChangeOnce)
+{
+    const QSignalSpy changes(&m_field, &TokenField::valueChanged);
+    m_field.setValue({u"<2>"_s});
+    m_field.setValue({u"<2>"_s});
+    EXPECT_EQ(changes.count(), 1);
+    press(Qt::Key_End);
+    type(u"x"_s);
+    EXPECT_EQ(changes.count(), 2);
+}
+
+TEST_F(TokenFields, OfferCompletionsOfTheWordBeforeTheCursor)
+{
+    type(u"n"_s);
+    EXPECT_EQ(offered(), (QStringList{u"Name"_s, u"Name of the Folder"_s, u"Number"_s}));
+    type(u"u"_s);
+    EXPECT_EQ(offered(), QStringList{u"Number"_s});
+    type(u"x"_s);
+    EXPECT_EQ(offered(), QStringList());
+}
+
+TEST_F(TokenFields, CompleteDisplayStringsOfSeveralWords)
+{
+    type(u"in name of"_s);
+    EXPECT_EQ(offered(), QStringList{u"Name of the Folder"_s});
+    press(Qt::Key_Tab);
+    EXPECT_EQ(m_field.value(), (QStringList{u"in "_s, u"<5>"_s}));
+}
+
+TEST_F(TokenFields, CompleteBehindATokenAndBehindASign)
+{
+    m_field.setValue({u"<2>"_s});
+    press(Qt::Key_End);
+    type(u"la"_s);
+    EXPECT_EQ(offered(), QStringList{u"Label"_s});
+    press(Qt::Key_Tab);
+    type(u"_nu"_s);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(m_field.value(), (QStringList{u"<2>"_s, u"<4>"_s, u"_"_s, u"<1>"_s}));
+}
+
+TEST_F(TokenFields, NeverOfferWhatWasTypedAsACompletionOfItself)
+{
+    type(u"nu"_s);
+    EXPECT_FALSE(offered().contains(u"nu"_s));
+    type(u"ll"_s);
+    EXPECT_EQ(offered(), QStringList());
+}
+
+TEST_F(TokenFields, HighlightNothingBeforeTheUserDoes)
+{
+    type(u"n"_s);
+    EXPECT_FALSE(list().currentIndex().isValid());
+    press(Qt::Key_Down);
+    EXPECT_EQ(list().currentIndex().row(), 0);
+    press(Qt::Key_Up);
+    EXPECT_EQ(list().currentIndex().row(), 2);
+    press(Qt::Key_Return);
+    EXPECT_EQ(m_field.value(), QStringList{u"<1>"_s});
+    EXPECT_FALSE(list().isVisible());
+}
+
+TEST_F(TokenFields, LoseNoTextTypedBeforeReturn)
+{
+    type(u"nu"_s);
+    ASSERT_TRUE(list().isVisible());
+    press(Qt::Key_Return);
+    EXPECT_EQ(m_field.value(), QStringList{u"nu"_s});
+    EXPECT_FALSE(list().isVisible());
+    type(u"ll"_s);
+    press(Qt::Key_Enter);
+    EXPECT_EQ(m_field.value(), QStringList{u"null"_s});
+}
+
+TEST_F(TokenFields, MakeATokenOfADisplayStringTypedInFullOnReturn)
+{
+    type(u"my Name of the Folder"_s);
+    press(Qt::Key_Return);
+    EXPECT_EQ(m_field.value(), (QStringList{u"my "_s, u"<5>"_s}));
+}
+
+TEST_F(TokenFields, LeaveADisplayStringInsideOfAWordAlone)
+{
+    type(u"FileName"_s);
+    press(Qt::Key_Return);
+    EXPECT_EQ(m_field.value(), QStringList{u"FileName"_s});
+}
+
+TEST_F(TokenFields, EndTheEditOnReturnAndWhenTheFocusLeaves)
+{
+    const QSignalSpy finished(&m_field, &TokenField::editingFinished);
+    type(u"x"_s);
+    EXPECT_EQ(finished.count(), 0);
+    press(Qt::Key_Return);
+    EXPECT_EQ(finished.count(), 1);
+    m_otherField.setFocus();
+    EXPECT_EQ(finished.count(), 2);
+}
+
+TEST_F(TokenFields, TakeTheFirstCompletionOnTabAndMoveOnWithTheNext)
+{
+    type(u"n"_s);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(m_field.value(), QStringList{u"<2>"_s});
+    EXPECT_TRUE(editor().hasFocus());
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(m_otherField.hasFocus());
+    QTest::keyClick(&m_otherField, Qt::Key_Backtab);
+    EXPECT_TRUE(editor().hasFocus());
+}
+
+TEST_F(TokenFields, TakeACompletionOnAClick)
+{
+    type(u"n"_s);
+    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, list().visualRect(list().model()->index(2, 0)).center());
+    EXPECT_EQ(m_field.value(), QStringList{u"<1>"_s});
+    EXPECT_TRUE(editor().hasFocus());
+}
+
+TEST_F(TokenFields, CloseTheListOnEscapeAndKeepTheText)
+{
+    type(u"n"_s);
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(list().isVisible());
+    EXPECT_EQ(m_field.value(), QStringList{u"n"_s});
+}
+
+TEST_F(TokenFields, OfferAllTokensOnDown)
+{
+    press(Qt::Key_Down);
+    EXPECT_EQ(offered().size(), 4);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(m_field.value(), QStringList{u"<4>"_s});
+}
+
+TEST_F(TokenFields, CloseTheListWhenTheCursorMovesOrTheFocusLeaves)
+{
+    type(u"n"_s);
+    press(Qt::Key_Left);
+    EXPECT_FALSE(list().isVisible());
+    press(Qt::Key_End);
+    type(u"u"_s);
+    ASSERT_TRUE(list().isVisible());
+    m_otherField.setFocus();
+    EXPECT_FALSE(list().isVisible());
+    EXPECT_EQ(m_field.value(), QStringList{u"nu"_s});
+}
+
+TEST_F(TokenFields, LeaveTheCompositionOfAnInputMethodAlone)
+{
+    type(u"n"_s);
+    ASSERT_TRUE(list().isVisible());
+    compose(u"na"_s);
+    EXPECT_FALSE(list().isVisible());
+    EXPECT_EQ(editor().textCursor().block().layout()->preeditAreaText(), u"na"_s);
+    EXPECT_TRUE(editor().hasFocus());
+    EXPECT_EQ(m_field.value(), QStringList{u"n"_s});
+    compose({}, u"u"_s);
+    EXPECT_EQ(m_field.value(), QStringList{u"nu"_s});
+    EXPECT_EQ(offered(), QStringList{u"Number"_s});
+}
+
+TEST_F(TokenFields, KeepTheFocusWhileTheListIsOpen)
+{
+    type(u"n"_s);
+    EXPECT_EQ(QApplication::focusWidget(), &editor());
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(TokenFields, DeleteTokensLikeCharacters)
+{
+    m_field.setValue({u"<2>"_s, u"-"_s, u"<1>"_s});
+    press(Qt::Key_End);
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(m_field.value(), (QStringList{u"<2>"_s, u"-"_s}));
+    press(Qt::Key_Home);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(m_field.value(), QStringList{u"-"_s});
+}
+
+TEST_F(TokenFields, SelectTokensWithShiftAndArrows)
+{
+    m_field.setValue({u"<2>"_s, u"-"_s, u"<1>"_s});
+    press(Qt::Key_End);
+    press(Qt::Key_Left, Qt::ShiftModifier);
+    EXPECT_EQ(editor().textCursor().selectionStart(), 2);
+    EXPECT_EQ(editor().textCursor().selectionEnd(), 3);
+    press(Qt::Key_Left, Qt::ShiftModifier);
+    type(u"x"_s);
+    EXPECT_EQ(m_field.value(), (QStringList{u"<2>"_s, u"x"_s}));
+}
+
+TEST_F(TokenFields, UndoAndRedoATokenInOneStep)
+{
+    type(u"my nu"_s);
+    press(Qt::Key_Tab);
+    ASSERT_EQ(m_field.value(), (QStringList{u"my "_s, u"<1>"_s}));
+    QTest::keySequence(&editor(), QKeySequence::Undo);
+    EXPECT_EQ(m_field.value(), QStringList{u"my nu"_s});
+    QTest::keySequence(&editor(), QKeySequence::Redo);
+    EXPECT_EQ(m_field.value(), (QStringList{u"my "_s, u"<1>"_s}));
+}
+
+TEST_F(TokenFields, UndoNothingBehindAValueThatWasSet)
+{
+    type(u"old"_s);
+    m_field.setValue({u"<2>"_s});
+    QTest::keySequence(&editor(), QKeySequence::Undo);
+    EXPECT_EQ(m_field.value(), QStringList{u"<2>"_s});
+}
+
+TEST_F(TokenFields, TypeTextBehindATokenAsText)
+{
+    m_field.setValue({u"<2>"_s});
+    press(Qt::Key_End);
+    type(u"x"_s);
+    compose({}, u"y"_s);
+    EXPECT_EQ(m_field.value(), (QStringList{u"<2>"_s, u"xy"_s}));
+}
+
+TEST_F(TokenFields, CopyTokensAsTheirDisplayStringsForOthers)
+{
+    m_field.setValue({u"<2>"_s, u", "_s, u"<1>"_s});
+    select(0, 4);
+    QTest::keySequence(&editor(), QKeySequence::Copy);
+    EXPECT_EQ(QApplication::clipboard()->text(), u"Name, Number"_s);
+}
+
+TEST_F(TokenFields, PasteTokensOfAnotherField)
+{
+    m_field.setValue({u"<2>"_s, u", "_s, u"<1>"_s});
+    select(0, 4);
+    QTest::keySequence(&editor(), QKeySequence::Cut);
+    EXPECT_EQ(m_field.value(), QStringList());
+    TokenField other;
+    other.setDelegate(&m_delegate);
+    other.findChild<QTextEdit *>()->paste();
+    EXPECT_EQ(other.value(), (QStringList{u"<2>"_s, u", "_s, u"<1>"_s}));
+}
+
+TEST_F(TokenFields, PasteTextOfOthersAsOneLine)
+{
+    QApplication::clipboard()->setText(u"one\r\ntwo\nthree\uFFFC"_s);
+    QTest::keySequence(&editor(), QKeySequence::Paste);
+    EXPECT_EQ(m_field.value(), QStringList{u"one two three"_s});
+}
+
+TEST_F(TokenFields, PasteNothingThatIsBroken)
+{
+    auto *data = new QMimeData;
+    data->setData(u"application/x-orvane-token-pieces"_s, "\x01\xff");
+    QApplication::clipboard()->setMimeData(data);
+    QTest::keySequence(&editor(), QKeySequence::Paste);
+    EXPECT_EQ(m_field.value(), QStringList());
+}
+
+TEST_F(TokenFields, SelectATokenOnAClick)
+{
+    m_field.setValue({u"<2>"_s, u", "_s, u"<1>"_s});
+    QTest::mouseClick(editor().viewport(), Qt::LeftButton, {}, centreOf(3));
+    EXPECT_EQ(editor().textCursor().selectionStart(), 3);
+    EXPECT_EQ(editor().textCursor().selectionEnd(), 4);
+    QTest::mouseClick(editor().viewport(), Qt::LeftButton, {}, centreOf(1));
+    EXPECT_FALSE(editor().textCursor().hasSelection());
+}
+
+TEST_F(TokenFields, StoreTheirValueWhenTheEditEnds)
+{
+    support::PanelController controller;
+    const windowing::Binding binding(&m_field, u"value"_s, &controller, u"settings.fileName"_s);
+    type(u"nu"_s);
+    press(Qt::Key_Tab);
+    type(u" x"_s);
+    EXPECT_FALSE(controller.settings()->objectForKey(u"fileName"_s).isValid());
+    m_otherField.setFocus();
+    EXPECT_EQ(controller.settings()->objectForKey(u"fileName"_s), QVariant(QVariantList{u"<1>"_s, u" x"_s}));
+    controller.settings()->setValue(QVariantList{u"<4>"_s}, u"fileName"_s);
+    EXPECT_EQ(m_field.displayText(), u"Label"_s);
+}
+
+TEST_F(TokenFields, GetTheirDelegateThroughABinding)
+{
+    TokenField field;
+    field.setValue({u"<2>"_s});
+    QObject controller;
+    controller.setProperty("tokens", QVariant::fromValue(&m_delegate));
+    const windowing::Binding binding(&field, u"delegate"_s, &controller, u"tokens"_s);
+    EXPECT_EQ(field.delegate(), &m_delegate);
+    EXPECT_EQ(field.displayText(), u"Name"_s);
+}
+
+TEST_F(TokenFields, ExposeTheirValue)
+{
+    EXPECT_EQ(windowing::exposedBindings(TokenField::staticMetaObject), QStringList{u"value"_s});
+}
+
+TEST_F(TokenFields, AreReadByScreenReadersWithTheirDisplayStrings)
+{
+    m_field.setValue({u"<2>"_s, u", "_s, u"<1>"_s});
+    QLabel label(u"&File names:"_s, &m_window);
+    label.setBuddy(&m_field);
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(&editor());
+    EXPECT_EQ(accessible->role(), QAccessible::EditableText);
+    EXPECT_EQ(accessible->text(QAccessible::Value), u"Name, Number"_s);
+    EXPECT_EQ(accessible->text(QAccessible::Name), u"File names:"_s);
+    QAccessibleTextInterface *text = accessible->textInterface();
+    ASSERT_NE(text, nullptr);
+    EXPECT_EQ(text->characterCount(), 12);
+    EXPECT_EQ(text->text(0, 4), u"Name"_s);
+    select(3, 4);
+    EXPECT_EQ(text->cursorPosition(), 12);
+    int start = 0;
+    int end = 0;
+    text->selection(0, &start, &end);
+    EXPECT_EQ(start, 6);
+    EXPECT_EQ(end, 12);
+    text->setCursorPosition(4);
+    EXPECT_EQ(editor().textCursor().position(), 1);
+    text->setSelection(0, 4, 12);
+    EXPECT_EQ(editor().textCursor().selectionStart(), 1);
+    EXPECT_EQ(editor().textCursor().selectionEnd(), 4);
+}
+
+TEST_F(TokenFields, RunFromRightToLeftWhereTheTextDoes)
+{
+    m_field.setValue({u"\u05D0\u05D1"_s, u"<2>"_s, u"\u05D2"_s});
+    QTextCursor cursor = editor().textCursor();
+    cursor.setPosition(0);
+    const int start = editor().cursorRect(cursor).left();
+    cursor.setPosition(4);
+    EXPECT_GT(start, editor().cursorRect(cursor).left());
+    QTest::mouseClick(editor().viewport(), Qt::LeftButton, {}, centreOf(2));
+    EXPECT_EQ(editor().textCursor().selectionStart(), 2);
+    EXPECT_EQ(editor().textCursor().selectionEnd(), 3);
+}
+
+TEST_F(TokenFields, ChangeNothingWhenTheyAreReadOnly)
+{
+    m_field.setValue({u"<2>"_s});
+    m_field.setReadOnly(true);
+    press(Qt::Key_Down);
+    EXPECT_FALSE(list().isVisible());
+    type(u"n"_s);
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(m_field.value(), QStringList{u"<2>"_s});
+}
+
+TEST_F(TokenFields, AreAsHighAsALineWhateverTheyShow)
+{
+    const int height = m_field.sizeHint().height();
+    EXPECT_GE(height, QLineEdit().sizeHint().height());
+    EXPECT_LE(height, QLineEdit().sizeHint().height() + 6);
+    const auto lineHeight = [this] { return std::lround(editor().document()->size().height()); };
+    const auto emptyHeight = lineHeight();
+    EXPECT_LE(emptyHeight, editor().height());
+    m_field.setValue({u"<2>"_s, u", "_s});
+    EXPECT_EQ(lineHeight(), emptyHeight);
+    m_field.setValue({});
+    type(u"nu"_s);
+    press(Qt::Key_Tab);
+    ASSERT_EQ(m_field.value(), QStringList{u"<1>"_s});
+    EXPECT_EQ(lineHeight(), emptyHeight);
+}
+
+TEST_F(TokenFields, DrawChipsAroundTokensOnly)
+{
+    m_field.setValue({u"<2>"_s, u"      "_s});
+    const QImage image = editor().viewport()->grab().toImage();
+    const QColor base = m_field.palette().color(QPalette::Base);
+    EXPECT_NE(image.pixelColor(QPoint(centreOf(0).x(), 5)), image.pixelColor(centreOf(4)));
+    select(0, 1);
+    const QImage selected = editor().viewport()->grab().toImage();
+    const QPoint besideText(centreOf(0).x(), 4);
+    EXPECT_EQ(selected.pixelColor(besideText), m_field.palette().color(QPalette::Highlight));
+    EXPECT_NE(image.pixelColor(besideText), base);
+}
+
+TEST_F(TokenFields, CompleteAmongAThousandTokensAtOnce)
+{
+    QMap<QString, QString> tokens;
+    for (int number = 0; number < 1000; ++number) {
+        tokens.insert(u"<%1>"_s.arg(number), u"Token of the Kind %1"_s.arg(number));
+    }
+    const KZTokenFieldDelegate delegate(tokens);
+    m_field.setDelegate(const_cast<KZTokenFieldDelegate *>(&delegate));
+    QElapsedTimer timer;
+    timer.start();
+    const QString typed = u"a longer text before token of"_s;
+    type(typed);
+    const double milliseconds = static_cast<double>(timer.nsecsElapsed()) / 1e6 / static_cast<double>(typed.size());
+    EXPECT_EQ(offered().size(), 1000);
+    EXPECT_LT(milliseconds, 50.0) << "a key";
+    RecordProperty("milliseconds_a_key", std::to_string(milliseconds));
+    std::cout << milliseconds << " ms a key\n";
+}
+
+} // namespace

@@ -1,0 +1,174 @@
+#include <OrvaneExportKit/windowing/UiLoader.h>
+#include <tests/support/Files.h>
+#include <tests/support/Printers.h>
+
+#include <gtest/gtest.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QTranslator>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+
+#include <string>
+
+/// A widget class that interface files may name once it is registered.
+class TestDial : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(int hours READ hours WRITE setHours)
+
+public:
+    explicit TestDial(QWidget *parent = nullptr) : QWidget(parent) {}
+
+    int hours() const { return m_hours; }
+    void setHours(int hours) { m_hours = hours; }
+
+private:
+    int m_hours = 12;
+};
+
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+using windowing::UiLoader;
+using windowing::WidgetClassRegistration;
+
+/// A bundle in a temporary folder with an interface file "Panel" in it.
+class UiLoaderTest : public testing::Test
+{
+protected:
+    /// Writes the file: a form of the class Panel with a label, a button and what `content` holds.
+    void writePanel(const QByteArray &content = {}) const
+    {
+        support::writeFile(m_folder.filePath(u"Panel.ui"_s), R"(<?xml version="1.0" encoding="UTF-8"?>
+<ui version="4.0">
+ <class>Panel</class>
+ <widget class="QWidget" name="panel">
+  <widget class="QLabel" name="message"><property name="text"><string>Message</string></property></widget>
+  <widget class="QPushButton" name="button">
+   <property name="tag" stdset="0"><number>1</number></property>
+  </widget>)" + content + "</widget></ui>");
+    }
+
+    std::unique_ptr<QWidget> load() const
+    {
+        return UiLoader::load(platform::Bundle(u"org.example.panels"_s, m_folder.path()), u"Panel"_s);
+    }
+
+    /// What the exception says that loading ends with.
+    std::string loadingError() const
+    {
+        try {
+            load();
+        } catch (const platform::InvalidArgumentException &error) {
+            return error.what();
+        }
+        return "no error";
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+testing::AssertionResult holds(const std::string &text, const std::string &piece)
+{
+    if (text.find(piece) == std::string::npos) {
+        return testing::AssertionFailure() << '"' << text << "\" lacks \"" << piece << '"';
+    }
+    return testing::AssertionSuccess();
+}
+
+const QByteArray dial = R"(<widget class="TestDial" name="dial"><property name="hours"><number>24</number></property>
+</widget>)";
+
+TEST_F(UiLoaderTest, FindsOutletsByNameAndType)
+{
+    writePanel();
+    const auto panel = load();
+    EXPECT_EQ(UiLoader::outlet<QLabel>(*panel, u"message"_s)->text(), u"Message"_s);
+    EXPECT_EQ(UiLoader::outlet<QWidget>(*panel, u"panel"_s), panel.get());
+    EXPECT_EQ(UiLoader::outlet<QPushButton>(*panel, u"button"_s)->property("tag"), 1);
+}
+
+TEST_F(UiLoaderTest, RefusesOutletsThatAreMissingOrOfAnotherType)
+{
+    writePanel();
+    const auto panel = load();
+    EXPECT_THROW(UiLoader::outlet<QLabel>(*panel, u"massage"_s), platform::InvalidArgumentException);
+    EXPECT_THROW(UiLoader::outlet<QLabel>(*panel, u"button"_s), platform::InvalidArgumentException);
+    EXPECT_THROW(UiLoader::outlet<QLabel>(*panel, u"panel"_s), platform::InvalidArgumentException);
+}
+
+TEST_F(UiLoaderTest, CreatesRegisteredClassesWithTheirProperties)
+{
+    writePanel(dial);
+    const auto registration = WidgetClassRegistration::of<TestDial>();
+    const auto panel = load();
+    EXPECT_EQ(UiLoader::outlet<TestDial>(*panel, u"dial"_s)->hours(), 24);
+}
+
+TEST_F(UiLoaderTest, NamesFileAndClassThatItDoesNotKnow)
+{
+    writePanel(dial);
+    EXPECT_TRUE(holds(loadingError(), "Panel.ui"));
+    EXPECT_TRUE(holds(loadingError(), "TestDial"));
+}
+
+TEST_F(UiLoaderTest, DoesNotKnowClassesWhoseRegistrationHasEnded)
+{
+    writePanel(dial);
+    {
+        const auto registration = WidgetClassRegistration::of<TestDial>();
+        EXPECT_EQ(loadingError(), "no error");
+    }
+    EXPECT_TRUE(holds(loadingError(), "TestDial"));
+}
+
+TEST_F(UiLoaderTest, PutsTheLatestRegistrationFirst)
+{
+    writePanel(dial);
+    const auto first = WidgetClassRegistration::of<TestDial>();
+    {
+        const WidgetClassRegistration second(u"TestDial"_s,
+                                             [](QWidget *parent) -> QWidget * { return new QLabel(parent); });
+        EXPECT_NE(load()->findChild<QLabel *>(u"dial"_s), nullptr);
+    }
+    EXPECT_NE(load()->findChild<TestDial *>(u"dial"_s), nullptr);
+}
+
+TEST_F(UiLoaderTest, NamesTheFileThatIsMissing)
+{
+    EXPECT_TRUE(holds(loadingError(), "Panel.ui"));
+    EXPECT_TRUE(holds(loadingError(), "org.example.panels"));
+}
+
+TEST_F(UiLoaderTest, NamesTheFileThatItCannotRead)
+{
+    writePanel("<widget class=");
+    EXPECT_TRUE(holds(loadingError(), "Panel.ui"));
+}
+
+/// Translates one text of one form.
+class PanelTranslator final : public QTranslator
+{
+public:
+    PanelTranslator() { QCoreApplication::installTranslator(this); }
+
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        return QByteArray(context) == "Panel" && QByteArray(source) == "Message" ? u"Meldung"_s : QString();
+    }
+};
+
+TEST_F(UiLoaderTest, TranslatesTextsInTheContextOfTheFormsClass)
+{
+    writePanel();
+    const PanelTranslator translator;
+    EXPECT_EQ(UiLoader::outlet<QLabel>(*load(), u"message"_s)->text(), u"Meldung"_s);
+}
+
+} // namespace
+
+#include "UiLoaderTest.moc"
