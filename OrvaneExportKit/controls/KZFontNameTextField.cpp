@@ -165,12 +165,6 @@ void KZFontNameTextField::awakeFromNib()
     setAttributedStringValue(remembered);
 }
 
-bool KZFontNameTextField::becomeFirstResponder()
-{
-    setFocus();
-    return true;
-}
-
 void KZFontNameTextField::changeFont(windowing::FontPanel *sender)
 {
     if (m_target == nullptr) {

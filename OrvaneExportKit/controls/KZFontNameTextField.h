@@ -35,7 +35,7 @@ class ORVANE_KIT_EXPORT KZFontNameTextField : public windowing::TextField
     Q_OBJECT
     Q_PROPERTY(QVariant selectedFontAttributes READ selectedFontAttributes WRITE setSelectedFontAttributes)
     Q_PROPERTY(QString selectedFontName READ selectedFontName WRITE setSelectedFontName DESIGNABLE true)
-    Q_PROPERTY(float selectedFontSize READ selectedFontSize WRITE setSelectedFontSize DESIGNABLE true)
+    Q_PROPERTY(double selectedFontSize READ selectedFontSize WRITE editSelectedFontSize DESIGNABLE true)
 
 public:
     /// A field for the user's default font at 10 points, centred, in a rounded bezel, not editable.
@@ -87,8 +87,9 @@ public:
     QByteArray action() const { return m_action; }
     void setAction(const QByteArray &function) { m_action = function; }
 
-    /// Takes the focus, so that the font panel's changes come here; nothing begins to be edited.
-    bool becomeFirstResponder();
+    /// Whether the field takes the focus, so that the font panel's changes come here: always. Nothing begins to be
+    /// edited with it.
+    bool becomeFirstResponder() const { return true; }
 
     /// Hands the change to the target; nothing happens without one. Throws `platform::UnrecognisedOperationException`
     /// when the target has no such function.
@@ -109,6 +110,8 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 
 private:
+    // The property is double, since Qt Designer lists none that are float.
+    void editSelectedFontSize(double size) { setSelectedFontSize(static_cast<float>(size)); }
     QVariantMap attributesOrNone() const { return m_selectedFontAttributes.toMap(); }
     void takeAttributes(const QVariantMap &attributes);
     void showInFontPanel() const;

@@ -27,7 +27,7 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
-        const QString given = QAccessibleWidget::text(kind);
+        QString given = QAccessibleWidget::text(kind);
         if (!given.isEmpty()) {
             return given;
         }

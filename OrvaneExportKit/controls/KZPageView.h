@@ -23,10 +23,10 @@ class ORVANE_KIT_EXPORT KZPageView : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(QSizeF paperSize READ paperSize WRITE setPaperSize DESIGNABLE true)
-    Q_PROPERTY(float topMargin READ topMargin WRITE setTopMargin DESIGNABLE true)
-    Q_PROPERTY(float leftMargin READ leftMargin WRITE setLeftMargin DESIGNABLE true)
-    Q_PROPERTY(float rightMargin READ rightMargin WRITE setRightMargin DESIGNABLE true)
-    Q_PROPERTY(float bottomMargin READ bottomMargin WRITE setBottomMargin DESIGNABLE true)
+    Q_PROPERTY(double topMargin READ topMargin WRITE editTopMargin DESIGNABLE true)
+    Q_PROPERTY(double leftMargin READ leftMargin WRITE editLeftMargin DESIGNABLE true)
+    Q_PROPERTY(double rightMargin READ rightMargin WRITE editRightMargin DESIGNABLE true)
+    Q_PROPERTY(double bottomMargin READ bottomMargin WRITE editBottomMargin DESIGNABLE true)
 
 public:
     /// A view of the paper that the shared print settings name, with margins of one inch (72 points), whatever margins
@@ -83,6 +83,11 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    // Properties are double, since Qt Designer lists none that are float.
+    void editTopMargin(double margin) { setTopMargin(static_cast<float>(margin)); }
+    void editLeftMargin(double margin) { setLeftMargin(static_cast<float>(margin)); }
+    void editRightMargin(double margin) { setRightMargin(static_cast<float>(margin)); }
+    void editBottomMargin(double margin) { setBottomMargin(static_cast<float>(margin)); }
     void valueChanged();
 
     QSizeF m_paperSize;
