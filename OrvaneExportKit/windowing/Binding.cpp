@@ -11,6 +11,7 @@
 #include <QtCore/QRegularExpression>
 #include <QtCore/QScopedValueRollback>
 #include <QtCore/QSizeF>
+#include <QtWidgets/QComboBox>
 
 #include <array>
 #include <charconv>
@@ -131,12 +132,13 @@ QVariant converted(const QVariant &value, QMetaType type, const QLocale &locale)
     return result.convert(type) ? result : QVariant(type);
 }
 
-/// Where a control can show a text in place of nothing by itself.
+/// Where a control can show a text in place of nothing by itself. An editable combo box does not, though it has one.
 bool hasPlaceholderText(const QWidget &control, const QString &name)
 {
     const QMetaObject &type = *control.metaObject();
     const bool isItsText = QLatin1String(type.userProperty().name()) == name || name == u"plainText";
-    return isItsText && type.indexOfProperty("placeholderText") >= 0;
+    return isItsText && type.indexOfProperty("placeholderText") >= 0 &&
+           qobject_cast<const QComboBox *>(&control) == nullptr;
 }
 
 // By the names of the classes, which outlive the libraries that their meta-objects are in.

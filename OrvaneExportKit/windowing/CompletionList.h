@@ -6,7 +6,7 @@
 
 namespace windowing {
 
-/// A list that hangs below the cursor of an editor while the user types. It takes neither the focus nor a key: input
+/// A list that hangs below an editor while the user types. It takes neither the focus nor a key: input
 /// methods and the keyboard stay with the editor, which moves the highlight.
 class CompletionList final : public QListView
 {

@@ -9,6 +9,7 @@
 #include <QtGui/QAbstractTextDocumentLayout>
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QPainter>
 #include <QtGui/QTextBlock>
 #include <QtWidgets/QScrollBar>
 
@@ -77,7 +78,8 @@ bool isReturn(const QKeyEvent &event)
 
 } // namespace
 
-TokenEditor::TokenEditor(TokenField &field) : QTextEdit(&field), m_field(field), m_list(new CompletionList(this))
+TokenEditor::TokenEditor(TokenField &field)
+    : QTextEdit(&field), m_field(field), m_list(new CompletionList(this)), m_chip(new TokenChip(*this))
 {
     setFrameShape(NoFrame);
     setAcceptRichText(false);
@@ -88,7 +90,7 @@ TokenEditor::TokenEditor(TokenField &field) : QTextEdit(&field), m_field(field),
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     viewport()->setAutoFillBackground(false);
     document()->setDocumentMargin(2.0);
-    document()->documentLayout()->registerHandler(tokenObjectType, new TokenChip(*this));
+    document()->documentLayout()->registerHandler(tokenObjectType, m_chip);
     adoptFont();
     // A letter from a taller font must not move the line up and down.
     connect(verticalScrollBar(), &QScrollBar::valueChanged, verticalScrollBar(),
@@ -269,6 +271,13 @@ void TokenEditor::mouseDoubleClickEvent(QMouseEvent *event)
     }
 }
 
+void TokenEditor::paintEvent(QPaintEvent *event)
+{
+    QTextEdit::paintEvent(event);
+    QPainter painter(viewport());
+    m_chip->drawSelectedChips(painter);
+}
+
 void TokenEditor::wheelEvent(QWheelEvent *event)
 {
     event->ignore(); // what the field stands in scrolls
@@ -363,9 +372,9 @@ void TokenEditor::showCompletions(const Completion &completion)
     m_completionStart = completion.start;
     QTextCursor start(document());
     start.setPosition(completion.start);
-    const QRect place = cursorRect(start);
-    m_list->showStrings(completion.strings, completion.highlighted,
-                        QRect(viewport()->mapToGlobal(place.topLeft()), place.size()));
+    QRect place(m_field.mapToGlobal(QPoint(0, 0)), m_field.size());
+    place.setLeft(viewport()->mapToGlobal(cursorRect(start).topLeft()).x());
+    m_list->showStrings(completion.strings, completion.highlighted, place);
 }
 
 void TokenEditor::completeTyped()
