@@ -8,6 +8,8 @@
 #include <QtCore/QMimeData>
 #include <QtGui/QAccessible>
 #include <QtGui/QClipboard>
+#include <QtGui/QDragEnterEvent>
+#include <QtGui/QDropEvent>
 #include <QtGui/QInputMethodEvent>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextLayout>
@@ -384,6 +386,20 @@ TEST_F(TokenFields, PasteNothingThatIsBroken)
     QApplication::clipboard()->setMimeData(data);
     QTest::keySequence(&editor(), QKeySequence::Paste);
     EXPECT_EQ(m_field.value(), QStringList());
+}
+
+TEST_F(TokenFields, TakeTextThatIsDroppedOnThem)
+{
+    m_field.setValue({u"<2>"_s, u"<1>"_s});
+    QMimeData data;
+    data.setText(u"dropped"_s);
+    const QPoint place = editor().cursorRect(QTextCursor(editor().document())).center();
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(editor().viewport(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(editor().viewport(), &drop);
+    EXPECT_EQ(m_field.value(), (QStringList{u"dropped"_s, u"<2>"_s, u"<1>"_s}));
 }
 
 TEST_F(TokenFields, SelectATokenOnAClick)
