@@ -42,13 +42,10 @@ struct BindingInfo {
 ///                            {.valueTransformerName = u"KZMeasurementUnitTransformer"_s});
 ///
 /// The name is that of a Qt property of the control, or one of these:
-///
-/// | control            | name          | value                                                                       |
-/// |--------------------|---------------|-----------------------------------------------------------------------------|
-/// | combo box          | `currentData` | the data of the chosen entry. In an interface file, the string-list property
-/// | |                    |               | `itemData` of the combo box gives the entries their data | | radio button,
-/// any  | `selectedTag` | the property `tag` of the button that is checked, so that the buttons of a   | | button | |
-/// group share one key path                                                    |
+/// - `currentData` of a combo box: the data of the chosen entry. In an interface file, the string-list property
+///   `itemData` of the combo box gives the entries their data.
+/// - `selectedTag` of a radio button or another button of a group: the property `tag` of the one button that is
+///   checked. The buttons share one key path.
 ///
 /// Changes are followed of settings objects (`didChangeValueForKey`) and of Qt properties with a NOTIFY signal, also
 /// when an object on the way is exchanged. What the user changes is stored when the edit ends where text is typed (line

@@ -15,8 +15,8 @@ class CompletionList final : public QListView
 public:
     explicit CompletionList(QWidget *editor);
 
-    /// Shows the strings below (or, where there is no room, above) a rectangle of the screen, with one of them
-    /// highlighted, or none for -1.
+    /// Shows the strings below (or, where there is no room, above) a rectangle of the screen, from where lines start in
+    /// it, with one of them highlighted, or none for -1.
     void showStrings(const QStringList &strings, int highlighted, const QRect &place);
 
     /// Moves the highlight by some rows, around the ends.
