@@ -184,7 +184,7 @@ void Binding::refresh()
     QVariant stored;
     try {
         stored = platform::valueForKeyPath(m_controller, m_keyPath);
-    } catch (const platform::Exception &) { // NOLINT(bugprone-empty-catch): then there is nothing to show
+    } catch (const platform::Exception &) { // then there is nothing to show
     }
     show(stored);
 }
@@ -210,7 +210,7 @@ void Binding::observe()
         disconnect(connection);
     }
     m_connections.clear();
-    const QMetaMethod changed = staticMetaObject.method(staticMetaObject.indexOfSlot("keyPathChanged()"));
+    const QMetaMethod changed = staticMetaObject.method(staticMetaObject.indexOfMethod("keyPathChanged()"));
     for (const platform::KeyPathStep &step : platform::keyPathSteps(m_controller, m_keyPath)) {
         if (auto *coding = qobject_cast<platform::KeyValueCoding *>(step.object)) {
             m_connections.append(connect(coding, &platform::KeyValueCoding::didChangeValueForKey, this,
@@ -235,9 +235,8 @@ void Binding::keyPathChanged()
         return;
     }
     try {
-        observe(); // another object may stand on the way now
-    } catch (
-        const platform::Exception &) { // NOLINT(bugprone-empty-catch): the path leads nowhere until it changes again
+        observe();                          // another object may stand on the way now
+    } catch (const platform::Exception &) { // the path leads nowhere until it changes again
     }
     refresh();
 }
@@ -248,7 +247,7 @@ void Binding::show(const QVariant &stored)
     QVariant shown(m_value->type());
     try {
         shown = shownValue(stored);
-    } catch (const platform::Exception &) { // NOLINT(bugprone-empty-catch): a value that this control cannot show
+    } catch (const platform::Exception &) { // a value that this control cannot show
     }
     m_value->setValue(shown);
     m_lastValue = m_value->value();

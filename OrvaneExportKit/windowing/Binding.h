@@ -74,15 +74,15 @@ public:
     QString name() const { return m_name; }
     BindingInfo info() const { return {m_controller, m_keyPath, m_options}; }
 
-public Q_SLOTS:
     /// Shows the stored value again, for changes that nobody was told of.
     void refresh();
 
     /// Stores what the control shows, unless that is what was shown or stored last.
-    void commit();
+    Q_INVOKABLE void commit();
 
 private:
     void observe();
+    Q_INVOKABLE void keyPathChanged();
     void show(const QVariant &stored);
     QVariant shownValue(const QVariant &stored);
     QVariant storedValue(const QVariant &shown) const;
@@ -96,9 +96,6 @@ private:
     QVariant m_lastValue;
     QMetaType m_shownNumber; ///< the type of the number that a text field shows; invalid when it shows a text
     bool m_isBusy = false;   ///< what happens now comes from this binding
-
-private Q_SLOTS:
-    void keyPathChanged();
 };
 
 /// What a value of a control is bound to, or nothing.
