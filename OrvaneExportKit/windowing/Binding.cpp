@@ -197,10 +197,15 @@ void Binding::commit()
     }
     try {
         const QScopedValueRollback busy(m_isBusy, true);
+        m_changesWhileBusy = 0;
         platform::setValueForKeyPath(m_controller, storedValue(shown), m_keyPath);
         m_lastValue = shown;
     } catch (const platform::Exception &) {
         refresh(); // the value is refused
+        return;
+    }
+    if (m_changesWhileBusy > 1) {
+        refresh(); // the value has been corrected by somebody who was told of it
     }
 }
 
@@ -232,6 +237,7 @@ void Binding::observe()
 void Binding::keyPathChanged()
 {
     if (m_isBusy) {
+        ++m_changesWhileBusy;
         return;
     }
     try {

@@ -52,7 +52,8 @@ struct BindingInfo {
 /// edits, text edits, token fields, combo boxes: on Return and when the focus leaves), and at once elsewhere, by the
 /// property's NOTIFY signal; a spin box says with `keyboardTracking` which of the two it does. A property without that
 /// signal is shown only, as is one behind a transformer without a way back. Storing does not come back to the control
-/// as a change, and an edit that ends with the text that was shown stores nothing.
+/// as a change, unless somebody who was told of it stores another value at once, and an edit that ends with the text
+/// that was shown stores nothing.
 ///
 /// A number shown in a text field is written as the field's locale does, and typed text is read back so; text that is
 /// no number is then refused, and the field shows the stored value again. So it does where the transformer or the
@@ -96,6 +97,7 @@ private:
     QVariant m_lastValue;
     QMetaType m_shownNumber; ///< the type of the number that a text field shows; invalid when it shows a text
     bool m_isBusy = false;   ///< what happens now comes from this binding
+    int m_changesWhileBusy = 0;
 };
 
 /// What a value of a control is bound to, or nothing.

@@ -457,6 +457,22 @@ TEST_F(Bindings, ShowTheStoredValueAgainWhenTheTransformerRefusesTheNewOne)
     EXPECT_EQ(stored(u"settings.language"_s), QVariant(u"ja"_s));
 }
 
+TEST_F(Bindings, ShowAValueThatAnObserverCorrects)
+{
+    QObject::connect(&settings(), &KZExportSettings::didChangeValueForKey, [this](const QString &key) {
+        if (settings().integerForKey(key) > 50) {
+            settings().setValue(50, key);
+        }
+    });
+    auto &spinBox = addControl<QSpinBox>();
+    bind(spinBox, u"value"_s, u"settings.count"_s);
+    spinBox.setValue(60);
+    EXPECT_EQ(stored(u"settings.count"_s), QVariant(50));
+    EXPECT_EQ(spinBox.value(), 50);
+    spinBox.setValue(40);
+    EXPECT_EQ(spinBox.value(), 40);
+}
+
 TEST_F(Bindings, KeepSizesAsText)
 {
     settings().setObject(QVariantMap{{u"size"_s, u"{595.5, 842}"_s}}, u"paper"_s);
