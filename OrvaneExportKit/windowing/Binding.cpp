@@ -11,6 +11,7 @@
 #include <QtCore/QRegularExpression>
 #include <QtCore/QScopedValueRollback>
 #include <QtCore/QSizeF>
+#include <QtWidgets/QComboBox>
 
 #include <array>
 #include <charconv>
@@ -131,12 +132,13 @@ QVariant converted(const QVariant &value, QMetaType type, const QLocale &locale)
     return result.convert(type) ? result : QVariant(type);
 }
 
-/// Where a control can show a text in place of nothing by itself.
+/// Where a control can show a text in place of nothing by itself. An editable combo box does not, though it has one.
 bool hasPlaceholderText(const QWidget &control, const QString &name)
 {
     const QMetaObject &type = *control.metaObject();
     const bool isItsText = QLatin1String(type.userProperty().name()) == name || name == u"plainText";
-    return isItsText && type.indexOfProperty("placeholderText") >= 0;
+    return isItsText && type.indexOfProperty("placeholderText") >= 0 &&
+           qobject_cast<const QComboBox *>(&control) == nullptr;
 }
 
 // By the names of the classes, which outlive the libraries that their meta-objects are in.
@@ -182,7 +184,7 @@ void Binding::refresh()
     QVariant stored;
     try {
         stored = platform::valueForKeyPath(m_controller, m_keyPath);
-    } catch (const platform::Exception &) { // NOLINT(bugprone-empty-catch): then there is nothing to show
+    } catch (const platform::Exception &) { // then there is nothing to show
     }
     show(stored);
 }
@@ -195,10 +197,15 @@ void Binding::commit()
     }
     try {
         const QScopedValueRollback busy(m_isBusy, true);
+        m_changesWhileBusy = 0;
         platform::setValueForKeyPath(m_controller, storedValue(shown), m_keyPath);
         m_lastValue = shown;
     } catch (const platform::Exception &) {
         refresh(); // the value is refused
+        return;
+    }
+    if (m_changesWhileBusy > 1) {
+        refresh(); // the value has been corrected by somebody who was told of it
     }
 }
 
@@ -208,7 +215,7 @@ void Binding::observe()
         disconnect(connection);
     }
     m_connections.clear();
-    const QMetaMethod changed = staticMetaObject.method(staticMetaObject.indexOfSlot("keyPathChanged()"));
+    const QMetaMethod changed = staticMetaObject.method(staticMetaObject.indexOfMethod("keyPathChanged()"));
     for (const platform::KeyPathStep &step : platform::keyPathSteps(m_controller, m_keyPath)) {
         if (auto *coding = qobject_cast<platform::KeyValueCoding *>(step.object)) {
             m_connections.append(connect(coding, &platform::KeyValueCoding::didChangeValueForKey, this,
@@ -230,12 +237,12 @@ void Binding::observe()
 void Binding::keyPathChanged()
 {
     if (m_isBusy) {
+        ++m_changesWhileBusy;
         return;
     }
     try {
-        observe(); // another object may stand on the way now
-    } catch (
-        const platform::Exception &) { // NOLINT(bugprone-empty-catch): the path leads nowhere until it changes again
+        observe();                          // another object may stand on the way now
+    } catch (const platform::Exception &) { // the path leads nowhere until it changes again
     }
     refresh();
 }
@@ -246,7 +253,7 @@ void Binding::show(const QVariant &stored)
     QVariant shown(m_value->type());
     try {
         shown = shownValue(stored);
-    } catch (const platform::Exception &) { // NOLINT(bugprone-empty-catch): a value that this control cannot show
+    } catch (const platform::Exception &) { // a value that this control cannot show
     }
     m_value->setValue(shown);
     m_lastValue = m_value->value();

@@ -42,20 +42,18 @@ struct BindingInfo {
 ///                            {.valueTransformerName = u"KZMeasurementUnitTransformer"_s});
 ///
 /// The name is that of a Qt property of the control, or one of these:
-///
-/// | control            | name          | value                                                                       |
-/// |--------------------|---------------|-----------------------------------------------------------------------------|
-/// | combo box          | `currentData` | the data of the chosen entry. In an interface file, the string-list property
-/// | |                    |               | `itemData` of the combo box gives the entries their data | | radio button,
-/// any  | `selectedTag` | the property `tag` of the button that is checked, so that the buttons of a   | | button | |
-/// group share one key path                                                    |
+/// - `currentData` of a combo box: the data of the chosen entry. In an interface file, the string-list property
+///   `itemData` of the combo box gives the entries their data.
+/// - `selectedTag` of a radio button or another button of a group: the property `tag` of the one button that is
+///   checked. The buttons share one key path.
 ///
 /// Changes are followed of settings objects (`didChangeValueForKey`) and of Qt properties with a NOTIFY signal, also
 /// when an object on the way is exchanged. What the user changes is stored when the edit ends where text is typed (line
 /// edits, text edits, token fields, combo boxes: on Return and when the focus leaves), and at once elsewhere, by the
 /// property's NOTIFY signal; a spin box says with `keyboardTracking` which of the two it does. A property without that
 /// signal is shown only, as is one behind a transformer without a way back. Storing does not come back to the control
-/// as a change, and an edit that ends with the text that was shown stores nothing.
+/// as a change, unless somebody who was told of it stores another value at once, and an edit that ends with the text
+/// that was shown stores nothing.
 ///
 /// A number shown in a text field is written as the field's locale does, and typed text is read back so; text that is
 /// no number is then refused, and the field shows the stored value again. So it does where the transformer or the
@@ -77,15 +75,15 @@ public:
     QString name() const { return m_name; }
     BindingInfo info() const { return {m_controller, m_keyPath, m_options}; }
 
-public Q_SLOTS:
     /// Shows the stored value again, for changes that nobody was told of.
     void refresh();
 
     /// Stores what the control shows, unless that is what was shown or stored last.
-    void commit();
+    Q_INVOKABLE void commit();
 
 private:
     void observe();
+    Q_INVOKABLE void keyPathChanged();
     void show(const QVariant &stored);
     QVariant shownValue(const QVariant &stored);
     QVariant storedValue(const QVariant &shown) const;
@@ -99,9 +97,7 @@ private:
     QVariant m_lastValue;
     QMetaType m_shownNumber; ///< the type of the number that a text field shows; invalid when it shows a text
     bool m_isBusy = false;   ///< what happens now comes from this binding
-
-private Q_SLOTS:
-    void keyPathChanged();
+    int m_changesWhileBusy = 0;
 };
 
 /// What a value of a control is bound to, or nothing.

@@ -41,6 +41,9 @@ void CompletionList::showStrings(const QStringList &strings, int highlighted, co
     if (geometry.bottom() > available.bottom()) {
         geometry.moveBottom(place.top() - 1);
     }
+    if (isRightToLeft()) {
+        geometry.moveRight(place.right());
+    }
     geometry.moveLeft(
         std::clamp(geometry.left(), available.left(), std::max(available.left(), available.right() - width)));
     setGeometry(geometry);

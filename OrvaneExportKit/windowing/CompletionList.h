@@ -6,7 +6,7 @@
 
 namespace windowing {
 
-/// A list that hangs below the cursor of an editor while the user types. It takes neither the focus nor a key: input
+/// A list that hangs below an editor while the user types. It takes neither the focus nor a key: input
 /// methods and the keyboard stay with the editor, which moves the highlight.
 class CompletionList final : public QListView
 {
@@ -15,8 +15,8 @@ class CompletionList final : public QListView
 public:
     explicit CompletionList(QWidget *editor);
 
-    /// Shows the strings below (or, where there is no room, above) a rectangle of the screen, with one of them
-    /// highlighted, or none for -1.
+    /// Shows the strings below (or, where there is no room, above) a rectangle of the screen, from where lines start in
+    /// it, with one of them highlighted, or none for -1.
     void showStrings(const QStringList &strings, int highlighted, const QRect &place);
 
     /// Moves the highlight by some rows, around the ends.

@@ -61,7 +61,7 @@ public:
         const QMetaMethod changed = isTextOfField() ? editingFinished() : m_property.notifySignal();
         if (changed.isValid()) {
             const QMetaObject &receiver = Binding::staticMetaObject;
-            QObject::connect(&m_control, changed, &binding, receiver.method(receiver.indexOfSlot("commit()")));
+            QObject::connect(&m_control, changed, &binding, receiver.method(receiver.indexOfMethod("commit()")));
         }
     }
 

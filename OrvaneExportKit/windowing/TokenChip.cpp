@@ -7,6 +7,8 @@
 #include <QtGui/QPainter>
 #include <QtGui/QPalette>
 
+#include <utility>
+
 namespace windowing {
 
 namespace {
@@ -27,6 +29,22 @@ QColor mixed(const QColor &over, const QColor &under, float share)
                             mix(over.blueF(), under.blueF()));
 }
 
+/// Draws a chip over the height of a line, as a tint on the ground.
+void drawChip(QPainter &painter, const QRectF &line, const QString &text, const QFont &font, const QColor &ground,
+              const QColor &tint, const QColor &textColor)
+{
+    const QRectF chip = line.adjusted(gap, -0.5, -gap, 0.5);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(mixed(tint, ground, 0.55F));
+    painter.setBrush(mixed(tint, ground, 0.18F));
+    painter.drawRoundedRect(chip, chip.height() / 2.0, chip.height() / 2.0);
+    painter.setFont(font);
+    painter.setPen(textColor);
+    painter.drawText(line, Qt::AlignCenter | Qt::TextSingleLine, text);
+    painter.restore();
+}
+
 } // namespace
 
 TokenChip::TokenChip(TokenEditor &editor) : QObject(&editor), m_editor(editor)
@@ -43,23 +61,28 @@ QSizeF TokenChip::intrinsicSize(QTextDocument * /*document*/, int /*position*/, 
 void TokenChip::drawObject(QPainter *painter, const QRectF &rect, QTextDocument * /*document*/, int position,
                            const QTextFormat &format)
 {
+    const QString text = m_editor.displayString(representedObject(format));
+    const QRectF line = rect.adjusted(0.0, 0.0, 0.0, QFontMetricsF(m_editor.font()).descent());
     const QTextCursor cursor = m_editor.textCursor();
-    const bool isSelected = position >= cursor.selectionStart() && position < cursor.selectionEnd();
+    if (position >= cursor.selectionStart() && position < cursor.selectionEnd()) {
+        m_selectedChips.append({painter->worldTransform().mapRect(line), text});
+        return;
+    }
+    const QPalette &palette = m_editor.palette();
+    drawChip(*painter, line, text, m_editor.font(), palette.color(QPalette::Base), palette.color(QPalette::Highlight),
+             palette.color(QPalette::Text));
+}
+
+void TokenChip::drawSelectedChips(QPainter &painter)
+{
     const QPalette &palette = m_editor.palette();
     const QColor highlight = palette.color(QPalette::Highlight);
-    const QColor base = palette.color(QPalette::Base);
-
-    const QRectF line = rect.adjusted(0.0, 0.0, 0.0, QFontMetricsF(m_editor.font()).descent());
-    const QRectF chip = line.adjusted(gap, -0.5, -gap, 0.5);
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(isSelected ? highlight : mixed(highlight, base, 0.55F));
-    painter->setBrush(isSelected ? highlight : mixed(highlight, base, 0.18F));
-    painter->drawRoundedRect(chip, chip.height() / 2.0, chip.height() / 2.0);
-    painter->setFont(m_editor.font());
-    painter->setPen(palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text));
-    painter->drawText(line, Qt::AlignCenter | Qt::TextSingleLine, m_editor.displayString(representedObject(format)));
-    painter->restore();
+    const QColor text = palette.color(QPalette::HighlightedText);
+    for (const SelectedChip &chip : std::as_const(m_selectedChips)) {
+        painter.fillRect(chip.line, highlight);
+        drawChip(painter, chip.line, chip.text, m_editor.font(), highlight, text, text);
+    }
+    m_selectedChips.clear();
 }
 
 } // namespace windowing

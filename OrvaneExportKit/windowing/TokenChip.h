@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QtCore/QList>
 #include <QtCore/QObject>
+#include <QtCore/QRectF>
+#include <QtCore/QString>
 #include <QtGui/QTextObjectInterface>
 
 namespace windowing {
@@ -21,8 +24,18 @@ public:
     void drawObject(QPainter *painter, const QRectF &rect, QTextDocument *document, int position,
                     const QTextFormat &format) override;
 
+    /// Draws the chips of the selection, which a document would paint its highlight over. To be called when the
+    /// document has been drawn.
+    void drawSelectedChips(QPainter &painter);
+
 private:
+    struct SelectedChip {
+        QRectF line; ///< in the viewport
+        QString text;
+    };
+
     TokenEditor &m_editor;
+    QList<SelectedChip> m_selectedChips;
 };
 
 } // namespace windowing

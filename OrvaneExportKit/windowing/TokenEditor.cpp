@@ -9,6 +9,7 @@
 #include <QtGui/QAbstractTextDocumentLayout>
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QPainter>
 #include <QtGui/QTextBlock>
 #include <QtWidgets/QScrollBar>
 
@@ -70,6 +71,14 @@ QList<TokenPiece> piecesOfData(const QByteArray &data)
     return pieces;
 }
 
+/// A height that keeps the baseline where it is, whether there are chips, letters of other fonts or nothing in the
+/// line: documents put it at four fifths of a fixed line height.
+double fixedLineHeight(const QFont &font)
+{
+    const QFontMetricsF metrics(font);
+    return std::ceil(std::max(metrics.ascent() / 0.8, metrics.descent() / 0.2));
+}
+
 bool isReturn(const QKeyEvent &event)
 {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
@@ -77,7 +86,8 @@ bool isReturn(const QKeyEvent &event)
 
 } // namespace
 
-TokenEditor::TokenEditor(TokenField &field) : QTextEdit(&field), m_field(field), m_list(new CompletionList(this))
+TokenEditor::TokenEditor(TokenField &field)
+    : QTextEdit(&field), m_field(field), m_list(new CompletionList(this)), m_chip(new TokenChip(*this))
 {
     setFrameShape(NoFrame);
     setAcceptRichText(false);
@@ -88,9 +98,9 @@ TokenEditor::TokenEditor(TokenField &field) : QTextEdit(&field), m_field(field),
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     viewport()->setAutoFillBackground(false);
     document()->setDocumentMargin(2.0);
-    document()->documentLayout()->registerHandler(tokenObjectType, new TokenChip(*this));
+    document()->documentLayout()->registerHandler(tokenObjectType, m_chip);
     adoptFont();
-    // A letter from a taller font must not move the line up and down.
+    // The field shows its one line and nothing above or below it.
     connect(verticalScrollBar(), &QScrollBar::valueChanged, verticalScrollBar(),
             [this] { verticalScrollBar()->setValue(0); });
     // Chips reach below the line where there is nothing but chips.
@@ -111,9 +121,8 @@ void TokenEditor::setPieces(const QList<TokenPiece> &pieces)
 
 void TokenEditor::adoptFont()
 {
-    // A line of chips alone is as high as one with letters.
     QTextBlockFormat format;
-    format.setLineHeight(QFontMetricsF(font()).height(), QTextBlockFormat::MinimumHeight);
+    format.setLineHeight(fixedLineHeight(font()), QTextBlockFormat::FixedHeight);
     setUndoRedoEnabled(false);
     QTextCursor(document()).mergeBlockFormat(format);
     setUndoRedoEnabled(true);
@@ -144,7 +153,7 @@ bool TokenEditor::isKnownToken(const QString &representedObject) const
 
 int TokenEditor::lineHeight() const
 {
-    return static_cast<int>(std::ceil(QFontMetricsF(font()).height() + 2.0 * document()->documentMargin()));
+    return static_cast<int>(std::ceil(fixedLineHeight(font()) + 2.0 * document()->documentMargin()));
 }
 
 bool TokenEditor::focusNextPrevChild(bool next)
@@ -269,6 +278,13 @@ void TokenEditor::mouseDoubleClickEvent(QMouseEvent *event)
     }
 }
 
+void TokenEditor::paintEvent(QPaintEvent *event)
+{
+    QTextEdit::paintEvent(event);
+    QPainter painter(viewport());
+    m_chip->drawSelectedChips(painter);
+}
+
 void TokenEditor::wheelEvent(QWheelEvent *event)
 {
     event->ignore(); // what the field stands in scrolls
@@ -363,9 +379,10 @@ void TokenEditor::showCompletions(const Completion &completion)
     m_completionStart = completion.start;
     QTextCursor start(document());
     start.setPosition(completion.start);
-    const QRect place = cursorRect(start);
-    m_list->showStrings(completion.strings, completion.highlighted,
-                        QRect(viewport()->mapToGlobal(place.topLeft()), place.size()));
+    const int x = viewport()->mapToGlobal(cursorRect(start).topLeft()).x();
+    QRect place(m_field.mapToGlobal(QPoint(0, 0)), m_field.size());
+    isRightToLeft() ? place.setRight(x) : place.setLeft(x);
+    m_list->showStrings(completion.strings, completion.highlighted, place);
 }
 
 void TokenEditor::completeTyped()

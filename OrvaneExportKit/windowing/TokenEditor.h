@@ -7,6 +7,7 @@
 namespace windowing {
 
 class CompletionList;
+class TokenChip;
 class TokenField;
 
 /// The text inside a token field: one line, in which tokens are single characters drawn as chips. Undoing, selecting,
@@ -51,6 +52,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     QMimeData *createMimeDataFromSelection() const override;
     bool canInsertFromMimeData(const QMimeData *source) const override;
@@ -80,6 +82,7 @@ private:
 
     TokenField &m_field;
     CompletionList *m_list;
+    TokenChip *m_chip;
     int m_completionStart = 0;
     int m_pressedToken = -1;
 };

@@ -48,6 +48,14 @@ private:
     QStringList m_names;
 };
 
+class NamedSizeView : public SizeView
+{
+    Q_OBJECT
+
+public:
+    using SizeView::SizeView;
+};
+
 /// Shows a text in capitals and stores nothing.
 class Capitals : public platform::ValueTransformer
 {
@@ -241,6 +249,14 @@ TEST_F(Bindings, ShowAPlaceholderInAFieldAsPlaceholderText)
     bind(field, u"text"_s, u"settings.title"_s, {.nullPlaceholder = u"Untitled"_s});
     EXPECT_EQ(field.text(), QString());
     EXPECT_EQ(field.placeholderText(), u"Untitled"_s);
+}
+
+TEST_F(Bindings, ShowAPlaceholderInAComboBoxAsItsText)
+{
+    auto &comboBox = addControl<QComboBox>();
+    comboBox.setEditable(true);
+    bind(comboBox, u"currentText"_s, u"settings.encoding"_s, {.nullPlaceholder = u"UTF-8"_s});
+    EXPECT_EQ(comboBox.currentText(), u"UTF-8"_s);
 }
 
 TEST_F(Bindings, StoreThePressOfACheckBox)
@@ -441,6 +457,22 @@ TEST_F(Bindings, ShowTheStoredValueAgainWhenTheTransformerRefusesTheNewOne)
     EXPECT_EQ(stored(u"settings.language"_s), QVariant(u"ja"_s));
 }
 
+TEST_F(Bindings, ShowAValueThatAnObserverCorrects)
+{
+    QObject::connect(&settings(), &KZExportSettings::didChangeValueForKey, [this](const QString &key) {
+        if (settings().integerForKey(key) > 50) {
+            settings().setValue(50, key);
+        }
+    });
+    auto &spinBox = addControl<QSpinBox>();
+    bind(spinBox, u"value"_s, u"settings.count"_s);
+    spinBox.setValue(60);
+    EXPECT_EQ(stored(u"settings.count"_s), QVariant(50));
+    EXPECT_EQ(spinBox.value(), 50);
+    spinBox.setValue(40);
+    EXPECT_EQ(spinBox.value(), 40);
+}
+
 TEST_F(Bindings, KeepSizesAsText)
 {
     settings().setObject(QVariantMap{{u"size"_s, u"{595.5, 842}"_s}}, u"paper"_s);
@@ -533,13 +565,14 @@ TEST_F(Bindings, RefuseUnknownValuesKeyPathsAndTransformersAndKeepTheEarlierOne)
 
 TEST(ExposedBindings, AreListedInTheirOrderBaseClassesFirst)
 {
+    windowing::exposeBinding(NamedSizeView::staticMetaObject, u"names"_s);
     windowing::exposeBinding(SizeView::staticMetaObject, u"paperSize"_s);
     windowing::exposeBinding(SizeView::staticMetaObject, u"margin"_s);
     windowing::exposeBinding(SizeView::staticMetaObject, u"paperSize"_s);
-    windowing::exposeBinding(QWidget::staticMetaObject, u"toolTip"_s);
-    EXPECT_EQ(windowing::exposedBindings(SizeView::staticMetaObject),
-              (QStringList{u"toolTip"_s, u"paperSize"_s, u"margin"_s}));
-    EXPECT_EQ(windowing::exposedBindings(QLabel::staticMetaObject), QStringList{u"toolTip"_s});
+    EXPECT_EQ(windowing::exposedBindings(NamedSizeView::staticMetaObject),
+              (QStringList{u"paperSize"_s, u"margin"_s, u"names"_s}));
+    EXPECT_EQ(windowing::exposedBindings(SizeView::staticMetaObject), (QStringList{u"paperSize"_s, u"margin"_s}));
+    EXPECT_EQ(windowing::exposedBindings(QLabel::staticMetaObject), QStringList());
 }
 
 } // namespace

@@ -8,6 +8,8 @@
 #include <QtCore/QMimeData>
 #include <QtGui/QAccessible>
 #include <QtGui/QClipboard>
+#include <QtGui/QDragEnterEvent>
+#include <QtGui/QDropEvent>
 #include <QtGui/QInputMethodEvent>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextLayout>
@@ -386,6 +388,20 @@ TEST_F(TokenFields, PasteNothingThatIsBroken)
     EXPECT_EQ(m_field.value(), QStringList());
 }
 
+TEST_F(TokenFields, TakeTextThatIsDroppedOnThem)
+{
+    m_field.setValue({u"<2>"_s, u"<1>"_s});
+    QMimeData data;
+    data.setText(u"dropped"_s);
+    const QPoint place = editor().cursorRect(QTextCursor(editor().document())).center();
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(editor().viewport(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(editor().viewport(), &drop);
+    EXPECT_EQ(m_field.value(), (QStringList{u"dropped"_s, u"<2>"_s, u"<1>"_s}));
+}
+
 TEST_F(TokenFields, SelectATokenOnAClick)
 {
     m_field.setValue({u"<2>"_s, u", "_s, u"<1>"_s});
@@ -482,7 +498,9 @@ TEST_F(TokenFields, AreAsHighAsALineWhateverTheyShow)
     const int height = m_field.sizeHint().height();
     EXPECT_GE(height, QLineEdit().sizeHint().height());
     EXPECT_LE(height, QLineEdit().sizeHint().height() + 6);
-    const auto lineHeight = [this] { return std::lround(editor().document()->size().height()); };
+    const auto lineHeight = [this] {
+        return std::lround(editor().document()->size().height());
+    };
     const auto emptyHeight = lineHeight();
     EXPECT_LE(emptyHeight, editor().height());
     m_field.setValue({u"<2>"_s, u", "_s});
@@ -494,17 +512,24 @@ TEST_F(TokenFields, AreAsHighAsALineWhateverTheyShow)
     EXPECT_EQ(lineHeight(), emptyHeight);
 }
 
-TEST_F(TokenFields, DrawChipsAroundTokensOnly)
+TEST_F(TokenFields, DrawChipsAroundTokensAndHighlightSelectedOnes)
 {
     m_field.setValue({u"<2>"_s, u"      "_s});
-    const QImage image = editor().viewport()->grab().toImage();
-    const QColor base = m_field.palette().color(QPalette::Base);
-    EXPECT_NE(image.pixelColor(QPoint(centreOf(0).x(), 5)), image.pixelColor(centreOf(4)));
+    const auto colorAt = [this](const QPoint &place) {
+        return m_field.grab().toImage().pixelColor(editor().viewport()->mapTo(&m_field, place));
+    };
+    const QPalette palette = m_field.palette();
+    const QRect start = editor().cursorRect(QTextCursor(editor().document()));
+    const QPoint corner = start.topLeft() + QPoint(2, 0);
+    const QPoint besideText(start.left() + 5, start.center().y());
+    const QPoint text = centreOf(4);
+    EXPECT_EQ(colorAt(corner), palette.color(QPalette::Base));
+    EXPECT_NE(colorAt(besideText), palette.color(QPalette::Base));
+    EXPECT_EQ(colorAt(text), palette.color(QPalette::Base));
     select(0, 1);
-    const QImage selected = editor().viewport()->grab().toImage();
-    const QPoint besideText(centreOf(0).x(), 4);
-    EXPECT_EQ(selected.pixelColor(besideText), m_field.palette().color(QPalette::Highlight));
-    EXPECT_NE(image.pixelColor(besideText), base);
+    EXPECT_EQ(colorAt(corner), palette.color(QPalette::Highlight));
+    EXPECT_NE(colorAt(besideText), palette.color(QPalette::Highlight));
+    EXPECT_EQ(colorAt(text), palette.color(QPalette::Base));
 }
 
 TEST_F(TokenFields, CompleteAmongAThousandTokensAtOnce)
