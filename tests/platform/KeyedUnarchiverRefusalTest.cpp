@@ -125,7 +125,7 @@ const Case classes[] = {
                    QVariantMap{{u"$classname"_s, u"NSArray"_s}, {u"$classes"_s, QVariantList{qint64{1}}}}}),
      "object 2 (a class): `$classes` holds something that is no string"},
     {"ClassAsAnObject", keyedArchive({classEntry}), "object 1: `$class` is missing"},
-    {"ObjectIsAnArray", keyedArchive({QVariantList()}),
+    {"ObjectIsAnArray", keyedArchive(QVariantList(1, QVariantList())),
      "object 1: is neither a plain value nor a dictionary with a class"},
     {"ObjectIsAReference", keyedArchive({uid(1)}), "object 1: is neither a plain value nor a dictionary with a class"},
 };

@@ -54,7 +54,7 @@ private:
 };
 
 /// An archive of the outermost field `root`, a reference to object 1, with these objects of the list from 1 on.
-inline QByteArray finished(BinaryList list, QList<quint16> objects)
+inline QByteArray finished(BinaryList &list, QList<quint16> objects)
 {
     objects.prepend(list.addString("$null"));
     const quint16 root = list.addString("root");
@@ -81,7 +81,7 @@ inline quint16 addClass(BinaryList &list, const QByteArray &name)
 }
 
 /// `count` objects of a class with the same field, an array of all of them, the root, and behind them a string.
-inline QByteArray manyOfOne(BinaryList list, quint16 count, const QByteArray &className, const QByteArray &key,
+inline QByteArray manyOfOne(BinaryList &list, quint16 count, const QByteArray &className, const QByteArray &key,
                             quint16 value, const QByteArray &rootClass = "NSArray")
 {
     QList<quint16> references;
