@@ -48,7 +48,7 @@ TEST(AscendingSortedRanges, KeepTheOrderOfEqualLocationsInALongList)
 {
     RangeList ranges;
     RangeList expected;
-    for (const std::size_t location : {1, 0}) {
+    for (const std::size_t location : {std::size_t{1}, std::size_t{0}}) {
         for (std::size_t length = 0; length < 1000; ++length) {
             ranges.push_back({location, length});
             expected.push_back({1 - location, length});
