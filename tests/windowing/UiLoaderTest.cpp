@@ -24,6 +24,10 @@ public:
     int hours() const { return m_hours; }
     void setHours(int hours) { m_hours = hours; }
 
+    /// The hours at the end of loading.
+    Q_INVOKABLE void awakeFromNib() { hoursWhenAwoken = m_hours; }
+    int hoursWhenAwoken = 0;
+
 private:
     int m_hours = 12;
 };
@@ -106,6 +110,7 @@ TEST_F(UiLoaderTest, CreatesRegisteredClassesWithTheirProperties)
     const auto registration = WidgetClassRegistration::of<TestDial>();
     const auto panel = load();
     EXPECT_EQ(UiLoader::outlet<TestDial>(*panel, u"dial"_s)->hours(), 24);
+    EXPECT_EQ(UiLoader::outlet<TestDial>(*panel, u"dial"_s)->hoursWhenAwoken, 24); // after its properties
 }
 
 TEST_F(UiLoaderTest, NamesFileAndClassThatItDoesNotKnow)
