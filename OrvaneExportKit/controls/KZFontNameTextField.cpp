@@ -2,7 +2,9 @@
 
 #include <OrvaneExportKit/platform/ArchivedClass.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/platform/KeyPaths.h>
 #include <OrvaneExportKit/windowing/ArchivedViews.h>
+#include <OrvaneExportKit/windowing/Binding.h>
 #include <OrvaneExportKit/windowing/Font.h>
 #include <OrvaneExportKit/windowing/FontPanel.h>
 #include <OrvaneExportKit/windowing/Frames.h>
@@ -203,6 +205,9 @@ void KZFontNameTextField::changeDocumentBackgroundColor(windowing::FontPanel *se
 /// The model comes first: who observes it sees the new value while the field still shows the old one.
 void KZFontNameTextField::takeAttributes(const QVariantMap &attributes)
 {
+    if (const auto binding = windowing::infoForBinding(this, u"selectedFontAttributes"_s)) {
+        platform::setValueForKeyPath(binding->observedObject, attributes, binding->observedKeyPath);
+    }
     setSelectedFontAttributes(attributes);
 }
 

@@ -5,6 +5,7 @@
 #include <OrvaneExportKit/windowing/ArchivedViews.h>
 #include <OrvaneExportKit/windowing/Frames.h>
 #include <OrvaneExportKit/windowing/PrintInfo.h>
+#include <OrvaneExportKit/windowing/UiLoader.h>
 
 #include <QtCore/QLocale>
 #include <QtGui/QPainter>
@@ -18,6 +19,8 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+const auto registration = windowing::WidgetClassRegistration::of<KZPageView>();
 
 /// What a screen reader says about a page view.
 class AccessiblePageView final : public QAccessibleWidget
