@@ -3,6 +3,9 @@
 #include <OrvaneExportKit/platform/Translations.h>
 #include <tests/support/Printers.h>
 
+#include <QtCore/QFile>
+#include <QtCore/QSet>
+#include <QtCore/QXmlStreamReader>
 #include <QtGui/QAccessible>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QComboBox>
@@ -65,6 +68,30 @@ protected:
         return widgets;
     }
 };
+
+/// The texts of all elements of this name in an XML file of a plug-in, except those that are not to be translated.
+QSet<QString> textsOf(QStringView element, const QString &file)
+{
+    QFile device(QStringLiteral(PLUGINS_FOLDER "/") + file);
+    EXPECT_TRUE(device.open(QIODevice::ReadOnly)) << file.toStdString();
+    QSet<QString> texts;
+    bool isInUntranslatedList = false;
+    QXmlStreamReader xml(&device);
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (xml.name() == u"stringlist") {
+            isInUntranslatedList = xml.isStartElement();
+        } else if (xml.isStartElement() && xml.name() == element) {
+            const bool isUntranslated = xml.attributes().hasAttribute(u"notr"_s) || isInUntranslatedList;
+            const QString text = xml.readElementText();
+            if (!isUntranslated) {
+                texts.insert(text);
+            }
+        }
+    }
+    EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+    return texts;
+}
 
 QString mnemonic(const QString &text)
 {
@@ -135,6 +162,17 @@ TEST_P(PanelTexts, AreInTheLanguageOfTheUser)
     EXPECT_EQ(menu.itemText(0), isGerman ? u"Gerade Zeichen behalten"_s : u"Keep straight marks"_s);
     if (plugin().name() == u"plain-text"_s) {
         EXPECT_EQ(plugin().displayName(), isGerman ? u"Nur Text"_s : u"Plain Text"_s);
+    }
+}
+
+TEST(PanelTranslations, HoldAllTextsOfThePanels)
+{
+    for (const QString &plugin : {u"html"_s, u"latex"_s, u"plain-text"_s}) {
+        const QSet<QString> inPanel = textsOf(u"string", plugin + u"/Panel.ui"_s);
+        const QSet<QString> translated = textsOf(u"source", plugin + u"/translations/de.ts"_s);
+        EXPECT_GT(inPanel.size(), 20) << plugin.toStdString();
+        EXPECT_EQ((inPanel - translated).values(), QStringList()) << plugin.toStdString();
+        EXPECT_FALSE(textsOf(u"translation", plugin + u"/translations/de.ts"_s).contains(QString()));
     }
 }
 
