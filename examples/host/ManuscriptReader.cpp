@@ -1,6 +1,5 @@
 #include "ManuscriptReader.h"
 
-#include "DocumentText.h"
 #include "HostError.h"
 #include "ManuscriptFile.h"
 #include "Messages.h"
@@ -104,13 +103,21 @@ QString manifestPath(const QString &folder)
 
 } // namespace
 
-Manuscript readManuscript(const QString &folder)
+Manuscript openManuscript(const QString &folder)
 {
     const JsonPart root = rootPart(manifestPath(folder));
     Manuscript manuscript{requiredString(root, u"title"_s), {}};
     for (const JsonPart &document : documentParts(root)) {
-        const ManuscriptDocument::Entry entry = entryOf(document, folder);
-        manuscript.documents.emplace_back(entry, documentText(entry.path));
+        manuscript.documents.emplace_back(entryOf(document, folder));
+    }
+    return manuscript;
+}
+
+Manuscript readManuscript(const QString &folder)
+{
+    Manuscript manuscript = openManuscript(folder);
+    for (ManuscriptDocument &document : manuscript.documents) {
+        document.setText(document.text());
     }
     return manuscript;
 }

@@ -2,7 +2,6 @@
 
 #include "HostError.h"
 #include "Messages.h"
-#include "Terminal.h"
 
 #include <OrvaneExportKit/platform/Paths.h>
 #include <OrvaneExportKit/run/FileNameChecks.h>
@@ -22,28 +21,19 @@ HostError outputError(const QString &message)
     return {ExitCode::Output, message};
 }
 
-QStringList pathsOf(const QList<platform::PathFinding> &findings)
-{
-    QStringList paths;
-    for (const platform::PathFinding &finding : findings) {
-        paths.append(quoted(finding.path));
-    }
-    return paths;
-}
-
 /// Whether the destination can only be meant as a folder. A file path shows in the files' names by its extension or
 /// by the token <5>.
-bool namesFolder(const ExportRequest &request)
+bool namesFolder(const OutputNames &names)
 {
-    const QFileInfo destination(request.destination);
-    return destination.isDir() || request.destination.endsWith(u'/') ||
-           (!destination.exists() && platform::pathExtension(request.destination).isEmpty() &&
-            !request.pattern.contains("<5>"_L1));
+    const QFileInfo destination(names.destination);
+    return destination.isDir() || names.destination.endsWith(u'/') ||
+           (!destination.exists() && platform::pathExtension(names.destination).isEmpty() &&
+            !names.pattern.contains("<5>"_L1));
 }
 
-void requireWritableFolder(const ExportRequest &request)
+void requireWritableFolder(const OutputNames &names)
 {
-    const QString folder = destinationFolder(request);
+    const QString folder = destinationFolder(names);
     const QFileInfo info(folder);
     if (!info.isDir()) {
         throw outputError(u"the destination folder %1 does not exist; make it first"_s.arg(quoted(folder)));
@@ -54,14 +44,14 @@ void requireWritableFolder(const ExportRequest &request)
     }
 }
 
-QStringList pathsByPattern(const ExportRequest &request, const Manuscript &manuscript, const QString &extension)
+QStringList pathsByPattern(const OutputNames &names, const Manuscript &manuscript, const QString &extension)
 {
     QList<const ExportDocument *> documents;
     for (const ManuscriptDocument &document : manuscript.documents) {
         documents.append(&document);
     }
-    return KZStringExportAdditions::filenamesFromComponents(request.destination, {request.pattern}, documents,
-                                                            request.convertSpaces, extension);
+    return KZStringExportAdditions::filenamesFromComponents(names.destination, {names.pattern}, documents,
+                                                            names.convertSpaces, extension);
 }
 
 QStringList additionalPaths(const QString &folder, const ExportPlugin &plugin)
@@ -125,55 +115,28 @@ void refuseOwnFiles(const QList<platform::PathFinding> &existing, const Manuscri
     }
 }
 
-void warnAboutRefusedNames(const QStringList &paths)
-{
-    QStringList lines;
-    for (const platform::PathFinding &refused : platform::refusedNames(paths)) {
-        lines.append(u"%1: %2"_s.arg(quoted(platform::lastPathComponent(refused.path)), refused.reason));
-    }
-    if (!lines.isEmpty()) {
-        printWarning(u"some file systems refuse these names:"_s + listed(lines));
-    }
-}
-
-void confirmReplacing(const QList<platform::PathFinding> &existing)
-{
-    const QString files = listed(pathsOf(existing));
-    if (!canAsk()) {
-        throw HostError(ExitCode::Declined,
-                        u"files exist already; give --yes to replace them, or choose another destination:"_s + files);
-    }
-    printMessage(u"Files exist already:"_s + files);
-    const QString them = existing.size() == 1 ? u"this file"_s : u"these %1 files"_s.arg(existing.size());
-    if (!confirm(u"Replace %1? [y/N]"_s.arg(them))) {
-        throw HostError(ExitCode::Declined, u"nothing was exported, as the files are not to be replaced"_s);
-    }
-}
-
 } // namespace
 
-QString destinationFolder(const ExportRequest &request)
+QString destinationFolder(const OutputNames &names)
 {
-    return namesFolder(request) ? request.destination : platform::deletingLastPathComponent(request.destination);
+    return namesFolder(names) ? names.destination : platform::deletingLastPathComponent(names.destination);
 }
 
-OutputPaths outputPaths(const ExportRequest &request, const Manuscript &manuscript, const ExportPlugin &plugin)
+OutputPaths outputPaths(const OutputNames &names, const Manuscript &manuscript, const ExportPlugin &plugin)
 {
-    requireWritableFolder(request);
-    const OutputPaths result{
-        pathsByPattern(request, manuscript, request.extension.value_or(plugin.pathExtension())),
-        additionalPaths(destinationFolder(request), plugin),
+    return {
+        pathsByPattern(names, manuscript, names.extension.value_or(plugin.pathExtension())),
+        additionalPaths(destinationFolder(names), plugin),
     };
-    const QStringList paths = result.documents + result.additional;
-    refuseRepeatedPaths(paths, manuscript);
-    const QList<platform::PathFinding> existing = platform::existingPaths(paths);
+}
+
+void checkOutputPaths(const OutputNames &names, const OutputPaths &paths, const Manuscript &manuscript)
+{
+    requireWritableFolder(names);
+    refuseRepeatedPaths(paths.all(), manuscript);
+    const QList<platform::PathFinding> existing = platform::existingPaths(paths.all());
     refuseFolders(existing);
     refuseOwnFiles(existing, manuscript);
-    warnAboutRefusedNames(paths);
-    if (!existing.isEmpty() && !request.replaceFiles) {
-        confirmReplacing(existing);
-    }
-    return result;
 }
 
 } // namespace host
