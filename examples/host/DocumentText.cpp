@@ -42,7 +42,7 @@ QString textOfFile(const QByteArray &content, const QString &path)
     return decoder(content);
 }
 
-bool isArchive(const QByteArray &content, const QString &path)
+bool holdsArchive(const QByteArray &content, const QString &path)
 {
     return path.endsWith(".archive"_L1) || content.startsWith("bplist00");
 }
@@ -78,7 +78,12 @@ AttributedString textOfArchive(const QByteArray &content, const QString &path)
 AttributedString documentText(const QString &path)
 {
     const QByteArray content = fileContent(path);
-    return isArchive(content, path) ? textOfArchive(content, path) : AttributedString(textOfFile(content, path));
+    return holdsArchive(content, path) ? textOfArchive(content, path) : AttributedString(textOfFile(content, path));
+}
+
+bool isArchive(const QString &path)
+{
+    return holdsArchive(fileContent(path), path);
 }
 
 } // namespace host
