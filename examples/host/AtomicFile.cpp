@@ -32,8 +32,9 @@ void writeFile(const QString &path, const QByteArray &content)
     QSaveFile file(path);
     // Unbuffered, because commit() does not notice when the rest of a buffer can't be written.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeAll(file, content) || !file.commit()) {
-        throw HostError(ExitCode::Output,
-                        u"%1 can't be written: %2; see to that and try again"_s.arg(quoted(path), file.errorString()));
+        throw HostError(
+            ExitCode::Output,
+            Texts::tr("%1 can't be written: %2; see to that and try again").arg(quoted(path), file.errorString()));
     }
 }
 

@@ -17,8 +17,9 @@ namespace {
 
 HostError pluginFailure(const ExportPlugin &plugin, const QString &part, const QString &reason)
 {
-    return {ExitCode::Plugin, u"the plug-in %1 failed on %2: %3; change the document or the plug-in's "
-                              "choices, and export again"_s.arg(plugin.name(), part, reason)};
+    return {ExitCode::Plugin, Texts::tr("the plug-in %1 failed on %2: %3; change the document or the plug-in's "
+                                        "choices, and export again")
+                                  .arg(plugin.name(), part, reason)};
 }
 
 /// What the plug-in makes; an exception of its own becomes an error that names the part of the export.
@@ -30,7 +31,7 @@ QByteArray madeBy(const ExportPlugin &plugin, const QString &part, const Make &m
     } catch (const std::exception &exception) {
         throw pluginFailure(plugin, part, printable(QString::fromUtf8(exception.what())));
     } catch (...) {
-        throw pluginFailure(plugin, part, u"it does not say why"_s);
+        throw pluginFailure(plugin, part, Texts::tr("it does not say why"));
     }
 }
 
@@ -39,7 +40,7 @@ QByteArray madeBy(const ExportPlugin &plugin, const QString &part, const Make &m
 QByteArray exportedDocument(const ManuscriptDocument &document, const ExportPlugin &plugin)
 {
     const platform::AttributedString text = document.text();
-    return madeBy(plugin, u"the document "_s + quoted(document.name()),
+    return madeBy(plugin, Texts::tr("the document %1").arg(quoted(document.name())),
                   [&] { return plugin.exportedData(document, text); });
 }
 
@@ -82,7 +83,7 @@ QByteArray ExportFiles::nextAdditionalContent() const
         documentFiles.append({&document, platform::lastPathComponent(m_paths.documents[documentFiles.size()])});
     }
     const QString name = platform::lastPathComponent(nextPath());
-    return madeBy(m_plugin, u"the file "_s + quoted(name),
+    return madeBy(m_plugin, Texts::tr("the file %1").arg(quoted(name)),
                   [&] { return m_plugin.additionalFileData(name, m_manuscript.title, documentFiles); });
 }
 

@@ -36,11 +36,11 @@ void requireWritableFolder(const OutputNames &names)
     const QString folder = destinationFolder(names);
     const QFileInfo info(folder);
     if (!info.isDir()) {
-        throw outputError(u"the destination folder %1 does not exist; make it first"_s.arg(quoted(folder)));
+        throw outputError(Texts::tr("the destination folder %1 does not exist; make it first").arg(quoted(folder)));
     }
     if (!info.isWritable()) {
         throw outputError(
-            u"you may not write into the destination folder %1; choose another one"_s.arg(quoted(folder)));
+            Texts::tr("you may not write into the destination folder %1; choose another one").arg(quoted(folder)));
     }
 }
 
@@ -68,8 +68,8 @@ QString originOfFile(qsizetype index, const Manuscript &manuscript)
 {
     const auto document = static_cast<std::size_t>(index);
     return document < manuscript.documents.size()
-               ? u"document %1, %2"_s.arg(index + 1).arg(quoted(manuscript.documents[document].name()))
-               : u"the plug-in's own file"_s;
+               ? Texts::tr("document %1, %2").arg(index + 1).arg(quoted(manuscript.documents[document].name()))
+               : Texts::tr("the plug-in's own file");
 }
 
 void refuseRepeatedPaths(const QStringList &paths, const Manuscript &manuscript)
@@ -79,7 +79,8 @@ void refuseRepeatedPaths(const QStringList &paths, const Manuscript &manuscript)
         lines.append(originOfFile(repeated.index, manuscript) + u": "_s + quoted(repeated.path));
     }
     if (!lines.isEmpty()) {
-        throw outputError(u"several documents would become the same file; put <1> into the pattern:"_s + listed(lines));
+        throw outputError(Texts::tr("several documents would become the same file; put <1> into the pattern:") +
+                          listed(lines));
     }
 }
 
@@ -92,7 +93,7 @@ void refuseFolders(const QList<platform::PathFinding> &existing)
         }
     }
     if (!lines.isEmpty()) {
-        throw outputError(u"folders stand where files would go; choose another destination or pattern:"_s +
+        throw outputError(Texts::tr("folders stand where files would go; choose another destination or pattern:") +
                           listed(lines));
     }
 }
@@ -110,7 +111,7 @@ void refuseOwnFiles(const QList<platform::PathFinding> &existing, const Manuscri
         }
     }
     if (!lines.isEmpty()) {
-        throw outputError(u"the export would replace the manuscript itself; choose another destination:"_s +
+        throw outputError(Texts::tr("the export would replace the manuscript itself; choose another destination:") +
                           listed(lines));
     }
 }

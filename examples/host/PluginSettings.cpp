@@ -1,6 +1,7 @@
 #include "PluginSettings.h"
 
 #include "HostError.h"
+#include "Messages.h"
 
 #include <OrvaneExportKit/platform/UserDefaults.h>
 
@@ -27,8 +28,9 @@ void saveSettings(const KZExportSettings &settings)
 {
     settings.writeSettingsToDefaults();
     if (!UserDefaults::standardUserDefaults().synchronize()) {
-        throw HostError(ExitCode::Output,
-                        u"the settings can't be saved: "_s + UserDefaults::standardUserDefaults().lastError());
+        throw HostError(
+            ExitCode::Output,
+            Texts::tr("the settings can't be saved: %1").arg(UserDefaults::standardUserDefaults().lastError()));
     }
 }
 

@@ -2,9 +2,11 @@
 
 #include "DocumentText.h"
 #include "HostError.h"
+#include "Messages.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QTextDocument>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -14,6 +16,7 @@ namespace host {
 namespace {
 
 constexpr int millisecondsOfPause = 300;
+constexpr qreal margin = 12;
 
 /// What the user typed, as it is: the plain text of an editor has no-break spaces replaced.
 QString typedText(const QPlainTextEdit &editor)
@@ -34,9 +37,11 @@ EditorPane::EditorPane(ManuscriptModel &model, QWidget *parent)
     QFont bold = m_title->font();
     bold.setBold(true);
     m_title->setFont(bold);
-    m_title->setMinimumHeight(2 * m_title->fontMetrics().height());
+    m_title->setMinimumHeight(QComboBox().sizeHint().height()); // in line with the head of the preview
     m_note->setWordWrap(true);
     m_editor->setObjectName(u"editor"_s);
+    m_editor->document()->setDocumentMargin(margin);
+    m_editor->setTabStopDistance(4 * m_editor->fontMetrics().horizontalAdvance(u' '));
     m_editor->setAccessibleName(tr("Text of the document"));
     m_pause.setSingleShot(true);
     m_pause.setInterval(millisecondsOfPause);
@@ -72,7 +77,7 @@ void EditorPane::showDocument(int row)
                                  "be edited here; an export uses all of it.")
                             : QString());
     } catch (const HostError &error) {
-        showText({}, true, error.message());
+        showText({}, true, sentence(error.message()));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "ExportDialog.h"
 
 #include "HostError.h"
+#include "Messages.h"
 #include "PluginSettings.h"
 #include "WindowDefaults.h"
 
@@ -72,7 +73,8 @@ ExportDialog::ExportDialog(const Manuscript &manuscript, const QList<ExportPlugi
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(sides, 1);
     layout->addWidget(buttons);
-    resize(880, 540);
+    resize(920, 560);
+    m_format->setFocus();
 
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -216,7 +218,7 @@ QString ExportDialog::problem() const
         checkOutputPaths(names(), outputPaths(names(), m_manuscript, plugin()), m_manuscript);
         return {};
     } catch (const HostError &error) {
-        return error.message();
+        return sentence(error.message());
     }
 }
 
@@ -240,7 +242,7 @@ void ExportDialog::keepChoices() const
     try {
         saveSettings(plugin().settings());
     } catch (const HostError &error) {
-        QMessageBox::warning(parentWidget(), windowTitle(), error.message());
+        QMessageBox::warning(parentWidget(), windowTitle(), sentence(error.message()));
     }
 }
 

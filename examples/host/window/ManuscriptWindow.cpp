@@ -3,6 +3,7 @@
 #include "Appearance.h"
 #include "ExportDialog.h"
 #include "HostError.h"
+#include "Messages.h"
 #include "WelcomePage.h"
 #include "WindowDefaults.h"
 
@@ -76,7 +77,7 @@ void ManuscriptWindow::openManuscript(const QString &folder)
     try {
         m_model.open(folder);
     } catch (const HostError &error) {
-        QMessageBox::warning(this, tr("Open Manuscript"), error.message());
+        QMessageBox::warning(this, tr("Open Manuscript"), sentence(error.message()));
         return;
     }
     addRecentManuscript(folder);
@@ -233,7 +234,7 @@ bool ManuscriptWindow::save()
         m_model.save();
         return true;
     } catch (const HostError &error) {
-        QMessageBox::warning(this, tr("Save"), error.message());
+        QMessageBox::warning(this, tr("Save"), sentence(error.message()));
         return false;
     }
 }

@@ -2,6 +2,7 @@
 
 #include "ExportFiles.h"
 #include "HostError.h"
+#include "Messages.h"
 
 #include <QtCore/QLocale>
 #include <QtGui/QFontDatabase>
@@ -30,7 +31,7 @@ PreviewPane::PreviewPane(const QList<ExportPlugin *> &plugins, QWidget *parent)
       m_note(new windowing::MessageLabel),
       m_text(new QPlainTextEdit)
 {
-    auto *label = new QLabel(tr("Pre&view as:"));
+    auto *label = new QLabel(tr("Preview &as:"));
     label->setBuddy(m_formats);
     m_formats->setObjectName(u"previewFormat"_s);
     for (const ExportPlugin *plugin : m_plugins) {
@@ -98,7 +99,7 @@ void PreviewPane::refresh()
         showFile(exportedDocument(*m_document, *plugin()));
     } catch (const HostError &error) {
         m_text->clear();
-        showNote(error.message());
+        showNote(sentence(error.message()));
     }
 }
 

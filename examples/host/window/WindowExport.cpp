@@ -2,6 +2,7 @@
 
 #include "ExportFiles.h"
 #include "HostError.h"
+#include "Messages.h"
 
 #include <OrvaneExportKit/run/AbortFlag.h>
 #include <OrvaneExportKit/run/KZExportProgress.h>
@@ -41,7 +42,7 @@ std::optional<WindowExportResult> exportInWindow(QWidget *window, const Manuscri
         }
         result.wasAborted = writeFiles(files, window);
     } catch (const HostError &error) {
-        result.error = error.message();
+        result.error = sentence(error.message());
     }
     result.written = files.written();
     return result;

@@ -3,6 +3,7 @@
 #include "Appearance.h"
 #include "HostError.h"
 #include "ManuscriptWindow.h"
+#include "Messages.h"
 #include "PluginFolder.h"
 #include "PluginSettings.h"
 #include "Terminal.h"
@@ -46,16 +47,20 @@ std::unique_ptr<QApplication> makeApplication(int &argc, char *argv[])
     return application;
 }
 
+void installTranslation(const QLocale &locale, const QString &name, const QString &folder)
+{
+    auto *translator = new QTranslator(QCoreApplication::instance());
+    if (translator->load(locale, name, u"_"_s, folder)) {
+        QCoreApplication::installTranslator(translator);
+    }
+}
+
 void installTranslations()
 {
-    const auto install = [](const QString &name, const QString &folder) {
-        auto *translator = new QTranslator(QCoreApplication::instance());
-        if (translator->load(QLocale(), name, u"_"_s, folder)) {
-            QCoreApplication::installTranslator(translator);
-        }
-    };
-    install(u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    install(u"host"_s, u":/orvane-host"_s);
+    installTranslation(QLocale(), u"qtbase"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    const QString folder = u":/orvane-host"_s;
+    installTranslation(QLocale(QLocale::English), u"host"_s, folder); // the plurals, for every language without its own
+    installTranslation(QLocale(), u"host"_s, folder);
 }
 
 /// The plug-ins with their saved settings; a sentence for everything that is wrong with them goes into `problems`.
@@ -63,7 +68,9 @@ std::optional<PluginFolder> loadedPlugins(const QString &folder, QStringList &pr
 {
     try {
         PluginFolder plugins(folder);
-        problems += plugins.problems();
+        for (const QString &problem : plugins.problems()) {
+            problems.append(sentence(problem));
+        }
         for (ExportPlugin *plugin : plugins.plugins()) {
             const QString problem = loadSavedSettings(plugin->settings());
             if (!problem.isEmpty()) {
@@ -72,7 +79,7 @@ std::optional<PluginFolder> loadedPlugins(const QString &folder, QStringList &pr
         }
         return plugins;
     } catch (const HostError &error) {
-        problems.append(error.message());
+        problems.append(sentence(error.message()));
         return std::nullopt;
     }
 }
