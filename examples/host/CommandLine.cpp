@@ -13,7 +13,8 @@ namespace host {
 namespace {
 
 constexpr QStringView description = uR"(
-Exports the documents of a manuscript, one file each, in the format of a plug-in.
+Shows a manuscript in a window, in which it is edited and exported; or, as a
+command, exports its documents, one file each, in the format of a plug-in.
 
 A manuscript is a folder with the documents, as UTF-8 text files or as keyed
 archives of a text (NAME.archive), and a file manuscript.json that names them in
@@ -57,6 +58,7 @@ Exit codes:
     3  the plug-in can't be loaded, or failed
     4  the files or the settings can't be written, or not under these names
     5  files exist and were not to be replaced
+    6  there is no display for a window
   130  the export was interrupted
 
 Example:
@@ -77,8 +79,10 @@ HostError usageError(QString message)
 CommandLine::CommandLine(const QStringList &arguments)
 {
     m_parser.setApplicationDescription(description.toString());
-    m_parser.addPositionalArgument(u"export"_s, u"The command: exports a manuscript."_s);
-    m_parser.addPositionalArgument(u"MANUSCRIPT"_s, u"The folder of the manuscript."_s);
+    m_parser.addPositionalArgument(
+        u"command"_s,
+        u"open shows the manuscript in that folder in a window, export exports it. Without a command, a window opens."_s,
+        u"[open MANUSCRIPT | export MANUSCRIPT]"_s);
     m_parser.addOptions({
         {u"plugin"_s, u"The plug-in that exports, by its name."_s, u"NAME"_s},
         {u"to"_s,
@@ -112,7 +116,11 @@ CommandLine::Task CommandLine::task() const
     if (m_parser.isSet(u"version"_s)) {
         return Task::ShowVersion;
     }
-    return m_parser.isSet(u"list-plugins"_s) ? Task::ListPlugins : Task::Export;
+    if (m_parser.isSet(u"list-plugins"_s)) {
+        return Task::ListPlugins;
+    }
+    const QStringList arguments = m_parser.positionalArguments();
+    return arguments.isEmpty() || arguments.first() == u"open" ? Task::ShowWindow : Task::Export;
 }
 
 QString CommandLine::helpText() const
@@ -129,19 +137,34 @@ QString CommandLine::pluginFolder() const
 ExportRequest CommandLine::exportRequest() const
 {
     ExportRequest request;
-    request.manuscriptFolder = manuscriptFolder();
+    request.manuscriptFolder = manuscriptFolder(u"export"_s);
     request.pluginName = requiredValue(u"plugin"_s, u"the plug-in that exports"_s);
-    request.destination =
+    request.names.destination =
         QDir::current().absoluteFilePath(requiredValue(u"to"_s, u"the folder or file path to export to"_s));
-    request.pattern = requiredValue(u"pattern"_s, u"how the files are called"_s);
-    request.extension = extension();
-    request.convertSpaces = m_parser.isSet(u"convert-spaces"_s);
+    request.names.pattern = requiredValue(u"pattern"_s, u"how the files are called"_s);
+    request.names.extension = extension();
+    request.names.convertSpaces = m_parser.isSet(u"convert-spaces"_s);
     request.replaceFiles = m_parser.isSet(u"yes"_s);
     request.settings = settings();
     if (m_parser.isSet(u"settings"_s)) {
         request.settingsFile = requiredValue(u"settings"_s, u"a property list"_s);
     }
     request.saveSettings = m_parser.isSet(u"save-settings"_s);
+    return request;
+}
+
+WindowRequest CommandLine::windowRequest() const
+{
+    for (const QString &option : m_parser.optionNames()) {
+        if (option != u"plugin-folder") {
+            throw usageError(
+                u"--%1 belongs to a command: export MANUSCRIPT --plugin NAME --to DESTINATION"_s.arg(option));
+        }
+    }
+    WindowRequest request{std::nullopt, pluginFolder()};
+    if (!m_parser.positionalArguments().isEmpty()) {
+        request.manuscriptFolder = QDir::current().absoluteFilePath(manuscriptFolder(u"open"_s));
+    }
     return request;
 }
 
@@ -154,17 +177,15 @@ QString CommandLine::requiredValue(const QString &option, const QString &purpose
     return value;
 }
 
-QString CommandLine::manuscriptFolder() const
+/// The folder behind a command.
+QString CommandLine::manuscriptFolder(const QString &command) const
 {
     const QStringList arguments = m_parser.positionalArguments();
-    if (arguments.isEmpty()) {
-        throw usageError(u"say what to do: export MANUSCRIPT --plugin NAME --to DESTINATION"_s);
-    }
-    if (arguments.first() != u"export") {
-        throw usageError(u"there is no command %1, only export"_s.arg(quoted(arguments.first())));
+    if (arguments.first() != command) {
+        throw usageError(u"there is no command %1, only open and export"_s.arg(quoted(arguments.first())));
     }
     if (arguments.size() != 2 || arguments.last().isEmpty()) {
-        throw usageError(u"export takes one manuscript folder"_s);
+        throw usageError(u"%1 takes one manuscript folder"_s.arg(command));
     }
     return arguments.last();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OutputPaths.h"
+
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QList>
 #include <QtCore/QString>
@@ -19,21 +21,24 @@ struct ExportRequest {
 
     QString manuscriptFolder;
     QString pluginName;
-    QString destination; ///< absolute
-    QString pattern;
-    std::optional<QString> extension; ///< without the dot; nothing for the plug-in's own
-    bool convertSpaces = false;
+    OutputNames names;
     bool replaceFiles = false; ///< the user has agreed beforehand to replace files that exist
     QList<Setting> settings;
     std::optional<QString> settingsFile; ///< takes the place of the saved settings
     bool saveSettings = false;           ///< keeps the settings of this run
 };
 
+/// The window that the user wants.
+struct WindowRequest {
+    std::optional<QString> manuscriptFolder; ///< opened at the start
+    QString pluginFolder;
+};
+
 /// The command line taken apart.
 class CommandLine
 {
 public:
-    enum class Task { ShowHelp, ShowVersion, ListPlugins, Export };
+    enum class Task { ShowHelp, ShowVersion, ListPlugins, Export, ShowWindow };
 
     /// Throws `HostError` for options that do not exist or lack their value.
     explicit CommandLine(const QStringList &arguments);
@@ -45,9 +50,12 @@ public:
     /// Throws `HostError` when something is missing or wrong.
     ExportRequest exportRequest() const;
 
+    /// Throws `HostError` when something is wrong.
+    WindowRequest windowRequest() const;
+
 private:
     QString requiredValue(const QString &option, const QString &purpose) const;
-    QString manuscriptFolder() const;
+    QString manuscriptFolder(const QString &command) const;
     std::optional<QString> extension() const;
     QList<ExportRequest::Setting> settings() const;
 

@@ -35,14 +35,14 @@ QString textOfFile(const QByteArray &content, const QString &path)
 {
     if (!content.isValidUtf8()) {
         const qsizetype offset = firstBadByte(content);
-        throw manuscriptError(u"%1 is no UTF-8 text from byte %2 on (%3); save the file as UTF-8"_s.arg(
-            quoted(path), QString::number(offset), placeAt(content, offset)));
+        throw manuscriptError(Texts::tr("%1 is no UTF-8 text from byte %2 on (%3); save the file as UTF-8")
+                                  .arg(quoted(path), QString::number(offset), placeAt(content, offset)));
     }
     QStringDecoder decoder(QStringDecoder::Utf8); // drops a byte order mark
     return decoder(content);
 }
 
-bool isArchive(const QByteArray &content, const QString &path)
+bool holdsArchive(const QByteArray &content, const QString &path)
 {
     return path.endsWith(".archive"_L1) || content.startsWith("bplist00");
 }
@@ -52,8 +52,8 @@ QVariant unarchived(const QByteArray &content, const QString &path)
     try {
         return KZArrayExportAdditions::arrayWithUnarchivedKeyedContent({content}).first();
     } catch (const platform::Exception &exception) {
-        throw manuscriptError(u"%1 is no keyed archive of a text: %2; save the document again"_s.arg(
-            quoted(path), printable(QString::fromUtf8(exception.what()))));
+        throw manuscriptError(Texts::tr("%1 is no keyed archive of a text: %2; save the document again")
+                                  .arg(quoted(path), printable(QString::fromUtf8(exception.what()))));
     }
 }
 
@@ -67,8 +67,8 @@ AttributedString textOfArchive(const QByteArray &content, const QString &path)
         const bool isUnknown = object.metaType() == QMetaType::fromType<platform::KeyedObject>();
         const QString kind =
             isUnknown ? object.value<platform::KeyedObject>().className() : QString::fromUtf8(object.typeName());
-        throw manuscriptError(u"%1 holds no text but a value of type %2; save the document as a text"_s.arg(
-            quoted(path), printable(kind)));
+        throw manuscriptError(Texts::tr("%1 holds no text but a value of type %2; save the document as a text")
+                                  .arg(quoted(path), printable(kind)));
     }
     return object.value<AttributedString>();
 }
@@ -78,7 +78,12 @@ AttributedString textOfArchive(const QByteArray &content, const QString &path)
 AttributedString documentText(const QString &path)
 {
     const QByteArray content = fileContent(path);
-    return isArchive(content, path) ? textOfArchive(content, path) : AttributedString(textOfFile(content, path));
+    return holdsArchive(content, path) ? textOfArchive(content, path) : AttributedString(textOfFile(content, path));
+}
+
+bool isArchive(const QString &path)
+{
+    return holdsArchive(fileContent(path), path);
 }
 
 } // namespace host

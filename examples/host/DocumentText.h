@@ -12,4 +12,7 @@ namespace host {
 /// Throws `HostError` when the file can't be read or is neither.
 platform::AttributedString documentText(const QString &path);
 
+/// Whether the file is a keyed archive. Throws `HostError` when it can't be read.
+bool isArchive(const QString &path);
+
 } // namespace host

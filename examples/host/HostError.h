@@ -15,6 +15,7 @@ enum class ExitCode {
     Plugin = 3,
     Output = 4,
     Declined = 5,
+    Display = 6,
     Interrupted = 130,
 };
 

@@ -1,11 +1,12 @@
 #include "ManuscriptDocument.h"
 
+#include "DocumentText.h"
+
 #include <utility>
 
 namespace host {
 
-ManuscriptDocument::ManuscriptDocument(Entry entry, platform::AttributedString text)
-    : m_entry(std::move(entry)), m_text(std::move(text))
+ManuscriptDocument::ManuscriptDocument(Entry entry) : m_entry(std::move(entry))
 {
 }
 
@@ -22,6 +23,11 @@ QString ManuscriptDocument::status() const
 QString ManuscriptDocument::label() const
 {
     return m_entry.label;
+}
+
+platform::AttributedString ManuscriptDocument::text() const
+{
+    return m_text ? *m_text : documentText(m_entry.path);
 }
 
 } // namespace host

@@ -5,6 +5,8 @@
 
 #include <QtCore/QString>
 
+#include <optional>
+
 namespace host {
 
 /// One document of a manuscript folder.
@@ -19,18 +21,28 @@ public:
         QString label;
     };
 
-    ManuscriptDocument(Entry entry, platform::AttributedString text);
+    explicit ManuscriptDocument(Entry entry);
 
     QString name() const override;
     QString status() const override;
     QString label() const override;
 
     const QString &path() const { return m_entry.path; }
-    const platform::AttributedString &text() const { return m_text; }
+
+    /// The text that is held, or else that of the file, read anew. Throws `HostError` when the file can't be read.
+    platform::AttributedString text() const;
+
+    /// Holds a text in place of the one in the file.
+    void setText(const platform::AttributedString &text) { m_text = text; }
+
+    /// Goes back to the text of the file.
+    void releaseText() { m_text.reset(); }
+
+    bool holdsText() const { return m_text.has_value(); }
 
 private:
     Entry m_entry;
-    platform::AttributedString m_text;
+    std::optional<platform::AttributedString> m_text;
 };
 
 } // namespace host

@@ -21,8 +21,8 @@ QByteArray fileContent(const QString &path)
         content = file.readAll();
     }
     if (file.error() != QFileDevice::NoError) {
-        throw manuscriptError(u"%1 can't be read: %2; check that it is there and that you may read it"_s.arg(
-            quoted(path), file.errorString()));
+        throw manuscriptError(Texts::tr("%1 can't be read: %2; check that it is there and that you may read it")
+                                  .arg(quoted(path), file.errorString()));
     }
     return content;
 }
@@ -31,7 +31,8 @@ QString placeAt(const QByteArray &content, qsizetype offset)
 {
     const QByteArray before = content.first(offset);
     const qsizetype lineStart = before.lastIndexOf('\n') + 1;
-    return u"line %1, column %2"_s.arg(before.count('\n') + 1)
+    return Texts::tr("line %1, column %2")
+        .arg(before.count('\n') + 1)
         .arg(QString::fromUtf8(before.sliced(lineStart)).size() + 1);
 }
 

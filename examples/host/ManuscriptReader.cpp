@@ -1,6 +1,5 @@
 #include "ManuscriptReader.h"
 
-#include "DocumentText.h"
 #include "HostError.h"
 #include "ManuscriptFile.h"
 #include "Messages.h"
@@ -31,7 +30,7 @@ QString requiredString(const JsonPart &part, const QString &key)
 {
     const QJsonValue value = part.values.value(key);
     if (!value.isString()) {
-        throw manuscriptError(u"%1 needs a \"%2\" with a string as its value"_s.arg(part.description, key));
+        throw manuscriptError(Texts::tr("%1 needs a \"%2\" with a string as its value").arg(part.description, key));
     }
     return value.toString();
 }
@@ -47,11 +46,11 @@ JsonPart rootPart(const QString &path)
     QJsonParseError error = {};
     const QJsonDocument json = QJsonDocument::fromJson(content, &error);
     if (error.error != QJsonParseError::NoError) {
-        throw manuscriptError(u"%1 is no valid JSON: %2: %3; correct it there"_s.arg(
-            quoted(path), placeAt(content, error.offset), error.errorString()));
+        throw manuscriptError(Texts::tr("%1 is no valid JSON: %2: %3; correct it there")
+                                  .arg(quoted(path), placeAt(content, error.offset), error.errorString()));
     }
     if (!json.isObject()) {
-        throw manuscriptError(u"%1 needs an object, {...}, as its content"_s.arg(quoted(path)));
+        throw manuscriptError(Texts::tr("%1 needs an object, {...}, as its content").arg(quoted(path)));
     }
     return {json.object(), quoted(path)};
 }
@@ -60,14 +59,15 @@ QList<JsonPart> documentParts(const JsonPart &root)
 {
     const QJsonValue documents = root.values.value("documents"_L1);
     if (!documents.isArray()) {
-        throw manuscriptError(u"%1 needs a \"documents\" with a list, [...], as its value"_s.arg(root.description));
+        throw manuscriptError(
+            Texts::tr("%1 needs a \"documents\" with a list, [...], as its value").arg(root.description));
     }
     QList<JsonPart> parts;
     const QJsonArray entries = documents.toArray();
     for (const auto &document : entries) {
-        const QString description = u"document %1 in %2"_s.arg(parts.size() + 1).arg(root.description);
+        const QString description = Texts::tr("document %1 in %2").arg(parts.size() + 1).arg(root.description);
         if (!document.isObject()) {
-            throw manuscriptError(u"%1 must be an object, {...}"_s.arg(description));
+            throw manuscriptError(Texts::tr("%1 must be an object, {...}").arg(description));
         }
         parts.append({document.toObject(), description});
     }
@@ -78,8 +78,8 @@ ManuscriptDocument::Entry entryOf(const JsonPart &document, const QString &folde
 {
     const QString file = requiredString(document, u"file"_s);
     if (file.isEmpty() || QDir::isAbsolutePath(file) || file.split(u'/').contains(".."_L1)) {
-        throw manuscriptError(u"%1 names the file %2; give a path inside the manuscript's folder"_s.arg(
-            document.description, quoted(file)));
+        throw manuscriptError(Texts::tr("%1 names the file %2; give a path inside the manuscript's folder")
+                                  .arg(document.description, quoted(file)));
     }
     return {platform::appendingPathComponent(folder, file), requiredString(document, u"name"_s),
             optionalString(document, u"status"_s), optionalString(document, u"label"_s)};
@@ -89,28 +89,37 @@ QString manifestPath(const QString &folder)
 {
     const QFileInfo info(folder);
     if (!info.exists()) {
-        throw manuscriptError(u"there is no manuscript folder %1; check the path"_s.arg(quoted(folder)));
+        throw manuscriptError(Texts::tr("there is no manuscript folder %1; check the path").arg(quoted(folder)));
     }
     if (!info.isDir()) {
-        throw manuscriptError(u"%1 is no folder; give the folder that holds manuscript.json"_s.arg(quoted(folder)));
+        throw manuscriptError(
+            Texts::tr("%1 is no folder; give the folder that holds manuscript.json").arg(quoted(folder)));
     }
     QString path = platform::appendingPathComponent(folder, u"manuscript.json"_s);
     if (!QFileInfo::exists(path)) {
         throw manuscriptError(
-            u"there is no manuscript.json in %1; give the folder that holds it"_s.arg(quoted(folder)));
+            Texts::tr("there is no manuscript.json in %1; give the folder that holds it").arg(quoted(folder)));
     }
     return path;
 }
 
 } // namespace
 
-Manuscript readManuscript(const QString &folder)
+Manuscript openManuscript(const QString &folder)
 {
     const JsonPart root = rootPart(manifestPath(folder));
     Manuscript manuscript{requiredString(root, u"title"_s), {}};
     for (const JsonPart &document : documentParts(root)) {
-        const ManuscriptDocument::Entry entry = entryOf(document, folder);
-        manuscript.documents.emplace_back(entry, documentText(entry.path));
+        manuscript.documents.emplace_back(entryOf(document, folder));
+    }
+    return manuscript;
+}
+
+Manuscript readManuscript(const QString &folder)
+{
+    Manuscript manuscript = openManuscript(folder);
+    for (ManuscriptDocument &document : manuscript.documents) {
+        document.setText(document.text());
     }
     return manuscript;
 }

@@ -14,11 +14,14 @@ struct Manuscript {
     std::deque<ManuscriptDocument> documents;
 };
 
-/// Reads a manuscript folder: manuscript.json, which names the documents, and the text of each of them.
+/// Reads manuscript.json of a manuscript folder, which names the documents. Their texts stay in their files.
 ///
 ///     {"title": "A Book", "documents": [{"file": "one.txt", "name": "One", "status": "Draft", "label": "Chapter"}]}
 ///
-/// Everything is read before the call returns, so that a missing chapter is known before the first file is written.
+/// Throws `HostError` when it is missing or not as it should be.
+Manuscript openManuscript(const QString &folder);
+
+/// The same with the text of every document, so that a missing chapter is known before the first file is written.
 /// Throws `HostError` when anything is missing or not as it should be.
 Manuscript readManuscript(const QString &folder);
 

@@ -12,6 +12,12 @@ constexpr qsizetype longestList = 20;
 
 } // namespace
 
+QString sentence(const QString &message)
+{
+    const QString end = message.endsWith(u'.') || message.contains(u'\n') ? QString() : u"."_s;
+    return message.left(1).toUpper() + message.sliced(1) + end;
+}
+
 QString printable(const QString &text)
 {
     QString shown = text;
@@ -38,7 +44,7 @@ QString listed(const QStringList &lines)
         list += u"\n  "_s + line;
     }
     if (lines.size() > longestList) {
-        list += u"\n  ... and %1 more"_s.arg(lines.size() - longestList);
+        list += u"\n  "_s + Texts::tr("... and %1 more").arg(lines.size() - longestList);
     }
     return list;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -7,6 +8,14 @@
 /// The pieces that all messages to the user are made of.
 
 namespace host {
+
+/// The texts of messages in the user's language: `Texts::tr("the file %1")`. A terminal shows them in English.
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Messages)
+};
+
+/// A message as a sentence by itself: "The folder does not exist." of "the folder does not exist".
+QString sentence(const QString &message);
 
 /// A text on one line that a terminal shows as it is: control characters give way to U+FFFD.
 QString printable(const QString &text);

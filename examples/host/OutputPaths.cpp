@@ -2,7 +2,6 @@
 
 #include "HostError.h"
 #include "Messages.h"
-#include "Terminal.h"
 
 #include <OrvaneExportKit/platform/Paths.h>
 #include <OrvaneExportKit/run/FileNameChecks.h>
@@ -22,46 +21,37 @@ HostError outputError(const QString &message)
     return {ExitCode::Output, message};
 }
 
-QStringList pathsOf(const QList<platform::PathFinding> &findings)
-{
-    QStringList paths;
-    for (const platform::PathFinding &finding : findings) {
-        paths.append(quoted(finding.path));
-    }
-    return paths;
-}
-
 /// Whether the destination can only be meant as a folder. A file path shows in the files' names by its extension or
 /// by the token <5>.
-bool namesFolder(const ExportRequest &request)
+bool namesFolder(const OutputNames &names)
 {
-    const QFileInfo destination(request.destination);
-    return destination.isDir() || request.destination.endsWith(u'/') ||
-           (!destination.exists() && platform::pathExtension(request.destination).isEmpty() &&
-            !request.pattern.contains("<5>"_L1));
+    const QFileInfo destination(names.destination);
+    return destination.isDir() || names.destination.endsWith(u'/') ||
+           (!destination.exists() && platform::pathExtension(names.destination).isEmpty() &&
+            !names.pattern.contains("<5>"_L1));
 }
 
-void requireWritableFolder(const ExportRequest &request)
+void requireWritableFolder(const OutputNames &names)
 {
-    const QString folder = destinationFolder(request);
+    const QString folder = destinationFolder(names);
     const QFileInfo info(folder);
     if (!info.isDir()) {
-        throw outputError(u"the destination folder %1 does not exist; make it first"_s.arg(quoted(folder)));
+        throw outputError(Texts::tr("the destination folder %1 does not exist; make it first").arg(quoted(folder)));
     }
     if (!info.isWritable()) {
         throw outputError(
-            u"you may not write into the destination folder %1; choose another one"_s.arg(quoted(folder)));
+            Texts::tr("you may not write into the destination folder %1; choose another one").arg(quoted(folder)));
     }
 }
 
-QStringList pathsByPattern(const ExportRequest &request, const Manuscript &manuscript, const QString &extension)
+QStringList pathsByPattern(const OutputNames &names, const Manuscript &manuscript, const QString &extension)
 {
     QList<const ExportDocument *> documents;
     for (const ManuscriptDocument &document : manuscript.documents) {
         documents.append(&document);
     }
-    return KZStringExportAdditions::filenamesFromComponents(request.destination, {request.pattern}, documents,
-                                                            request.convertSpaces, extension);
+    return KZStringExportAdditions::filenamesFromComponents(names.destination, {names.pattern}, documents,
+                                                            names.convertSpaces, extension);
 }
 
 QStringList additionalPaths(const QString &folder, const ExportPlugin &plugin)
@@ -78,8 +68,8 @@ QString originOfFile(qsizetype index, const Manuscript &manuscript)
 {
     const auto document = static_cast<std::size_t>(index);
     return document < manuscript.documents.size()
-               ? u"document %1, %2"_s.arg(index + 1).arg(quoted(manuscript.documents[document].name()))
-               : u"the plug-in's own file"_s;
+               ? Texts::tr("document %1, %2").arg(index + 1).arg(quoted(manuscript.documents[document].name()))
+               : Texts::tr("the plug-in's own file");
 }
 
 void refuseRepeatedPaths(const QStringList &paths, const Manuscript &manuscript)
@@ -89,7 +79,8 @@ void refuseRepeatedPaths(const QStringList &paths, const Manuscript &manuscript)
         lines.append(originOfFile(repeated.index, manuscript) + u": "_s + quoted(repeated.path));
     }
     if (!lines.isEmpty()) {
-        throw outputError(u"several documents would become the same file; put <1> into the pattern:"_s + listed(lines));
+        throw outputError(Texts::tr("several documents would become the same file; put <1> into the pattern:") +
+                          listed(lines));
     }
 }
 
@@ -102,7 +93,7 @@ void refuseFolders(const QList<platform::PathFinding> &existing)
         }
     }
     if (!lines.isEmpty()) {
-        throw outputError(u"folders stand where files would go; choose another destination or pattern:"_s +
+        throw outputError(Texts::tr("folders stand where files would go; choose another destination or pattern:") +
                           listed(lines));
     }
 }
@@ -120,60 +111,33 @@ void refuseOwnFiles(const QList<platform::PathFinding> &existing, const Manuscri
         }
     }
     if (!lines.isEmpty()) {
-        throw outputError(u"the export would replace the manuscript itself; choose another destination:"_s +
+        throw outputError(Texts::tr("the export would replace the manuscript itself; choose another destination:") +
                           listed(lines));
-    }
-}
-
-void warnAboutRefusedNames(const QStringList &paths)
-{
-    QStringList lines;
-    for (const platform::PathFinding &refused : platform::refusedNames(paths)) {
-        lines.append(u"%1: %2"_s.arg(quoted(platform::lastPathComponent(refused.path)), refused.reason));
-    }
-    if (!lines.isEmpty()) {
-        printWarning(u"some file systems refuse these names:"_s + listed(lines));
-    }
-}
-
-void confirmReplacing(const QList<platform::PathFinding> &existing)
-{
-    const QString files = listed(pathsOf(existing));
-    if (!canAsk()) {
-        throw HostError(ExitCode::Declined,
-                        u"files exist already; give --yes to replace them, or choose another destination:"_s + files);
-    }
-    printMessage(u"Files exist already:"_s + files);
-    const QString them = existing.size() == 1 ? u"this file"_s : u"these %1 files"_s.arg(existing.size());
-    if (!confirm(u"Replace %1? [y/N]"_s.arg(them))) {
-        throw HostError(ExitCode::Declined, u"nothing was exported, as the files are not to be replaced"_s);
     }
 }
 
 } // namespace
 
-QString destinationFolder(const ExportRequest &request)
+QString destinationFolder(const OutputNames &names)
 {
-    return namesFolder(request) ? request.destination : platform::deletingLastPathComponent(request.destination);
+    return namesFolder(names) ? names.destination : platform::deletingLastPathComponent(names.destination);
 }
 
-OutputPaths outputPaths(const ExportRequest &request, const Manuscript &manuscript, const ExportPlugin &plugin)
+OutputPaths outputPaths(const OutputNames &names, const Manuscript &manuscript, const ExportPlugin &plugin)
 {
-    requireWritableFolder(request);
-    const OutputPaths result{
-        pathsByPattern(request, manuscript, request.extension.value_or(plugin.pathExtension())),
-        additionalPaths(destinationFolder(request), plugin),
+    return {
+        pathsByPattern(names, manuscript, names.extension.value_or(plugin.pathExtension())),
+        additionalPaths(destinationFolder(names), plugin),
     };
-    const QStringList paths = result.documents + result.additional;
-    refuseRepeatedPaths(paths, manuscript);
-    const QList<platform::PathFinding> existing = platform::existingPaths(paths);
+}
+
+void checkOutputPaths(const OutputNames &names, const OutputPaths &paths, const Manuscript &manuscript)
+{
+    requireWritableFolder(names);
+    refuseRepeatedPaths(paths.all(), manuscript);
+    const QList<platform::PathFinding> existing = platform::existingPaths(paths.all());
     refuseFolders(existing);
     refuseOwnFiles(existing, manuscript);
-    warnAboutRefusedNames(paths);
-    if (!existing.isEmpty() && !request.replaceFiles) {
-        confirmReplacing(existing);
-    }
-    return result;
 }
 
 } // namespace host

@@ -39,12 +39,14 @@ void requireOwnInterface(const QString &identifier)
     const InterfaceIdentifier own(QStringLiteral(ExportPlugin_iid));
     const InterfaceIdentifier other(identifier);
     if (other.name != own.name) {
-        throw pluginError(u"it is a Qt plug-in of another kind, for %1, no export plug-in"_s.arg(quoted(identifier)));
+        throw pluginError(
+            Texts::tr("it is a Qt plug-in of another kind, for %1, no export plug-in").arg(quoted(identifier)));
     }
     if (other.version != own.version) {
         throw pluginError(
-            u"it was built for version %1 of the plug-in interface, this program has version %2; rebuild "
-            u"it against the kit that this program came with"_s.arg(printable(other.version), own.version));
+            Texts::tr("it was built for version %1 of the plug-in interface, this program has version %2; rebuild "
+                      "it against the kit that this program came with")
+                .arg(printable(other.version), own.version));
     }
 }
 
@@ -54,7 +56,7 @@ ExportPlugin *loadedPlugin(const QString &path)
     QPluginLoader loader(path);
     const QString identifier = loader.metaData().value("IID"_L1).toString();
     if (identifier.isEmpty()) {
-        throw pluginError(u"it is no Qt plug-in: %1"_s.arg(loader.errorString()));
+        throw pluginError(Texts::tr("it is no Qt plug-in: %1").arg(loader.errorString()));
     }
     requireOwnInterface(identifier);
     QObject *instance = loader.instance();
@@ -63,8 +65,8 @@ ExportPlugin *loadedPlugin(const QString &path)
     }
     auto *plugin = qobject_cast<ExportPlugin *>(instance);
     if (plugin == nullptr) {
-        throw pluginError(u"its class %1 does not offer the interface that its metadata names"_s.arg(
-            QLatin1StringView(instance->metaObject()->className())));
+        throw pluginError(Texts::tr("its class %1 does not offer the interface that its metadata names")
+                              .arg(QLatin1StringView(instance->metaObject()->className())));
     }
     return plugin;
 }
@@ -84,8 +86,8 @@ PluginFolder::PluginFolder(const QString &path) : m_path(path)
 {
     const QDir folder(path);
     if (!folder.exists()) {
-        throw pluginError(
-            u"there is no plug-in folder %1; name one by --plugin-folder or ORVANE_PLUGIN_PATH"_s.arg(quoted(path)));
+        throw pluginError(Texts::tr("there is no plug-in folder %1; name one by --plugin-folder or ORVANE_PLUGIN_PATH")
+                              .arg(quoted(path)));
     }
     for (const QString &name : folder.entryList(QDir::Files, QDir::Name)) {
         if (QLibrary::isLibrary(name)) {
@@ -98,10 +100,10 @@ ExportPlugin &PluginFolder::pluginNamed(const QString &name) const
 {
     ExportPlugin *plugin = findPlugin(name);
     if (plugin == nullptr) {
-        const QString names = m_plugins.isEmpty() ? u"none"_s : namesOf(m_plugins).join(", "_L1);
-        throw pluginError(
-            u"there is no plug-in %1 in the folder %2; it holds: %3"_s.arg(quoted(name), quoted(m_path), names) +
-            listed(m_problems));
+        const QString names = m_plugins.isEmpty() ? Texts::tr("none") : namesOf(m_plugins).join(", "_L1);
+        throw pluginError(Texts::tr("there is no plug-in %1 in the folder %2; it holds: %3")
+                              .arg(quoted(name), quoted(m_path), names) +
+                          listed(m_problems));
     }
     return *plugin;
 }
@@ -115,7 +117,7 @@ ExportPlugin *PluginFolder::findPlugin(const QString &name) const
 
 void PluginFolder::add(const QString &file)
 {
-    QString reason = u"it failed while it was loaded"_s;
+    QString reason = Texts::tr("it failed while it was loaded");
     try {
         ExportPlugin *plugin = loadedPlugin(file);
         if (findPlugin(plugin->name()) == nullptr) {
@@ -123,7 +125,7 @@ void PluginFolder::add(const QString &file)
             m_metadata.insert(plugin, QPluginLoader(file).metaData().value("MetaData"_L1).toObject());
             return;
         }
-        reason = u"the folder holds another plug-in of the name %1"_s.arg(quoted(plugin->name()));
+        reason = Texts::tr("the folder holds another plug-in of the name %1").arg(quoted(plugin->name()));
     } catch (const HostError &error) {
         reason = error.message();
     } catch (const std::exception &exception) {
@@ -131,7 +133,7 @@ void PluginFolder::add(const QString &file)
     } catch (...) {
         // It does not say why.
     }
-    m_problems.append(u"%1 can't be used: %2"_s.arg(quoted(file), reason));
+    m_problems.append(Texts::tr("%1 can't be used: %2").arg(quoted(file), reason));
 }
 
 QString defaultPluginFolder()

@@ -1,14 +1,18 @@
 #pragma once
 
-#include "CommandLine.h"
+#include <OrvaneExportKit/settings/KZExportSettings.h>
 
-#include <OrvaneExportKit/run/ExportPlugin.h>
+#include <QtCore/QString>
 
 namespace host {
 
-/// Loads the settings of the plug-in, saved or from a file, makes those of the command line, and saves them when the
-/// user wants to. Throws `HostError` for a key that the plug-in does not have and a value that it does not take, also
-/// among those that were saved, and for a file that can't be read or written.
-void prepareSettings(ExportPlugin &plugin, const ExportRequest &request);
+/// Replaces a plug-in's settings by those that the user has saved. What the saved ones lack stays as it was, so that
+/// settings that are new in a plug-in start with their defaults.
+///
+/// The result is a sentence that says why saved settings can't be read; empty when they were, and when there are none.
+QString loadSavedSettings(KZExportSettings &settings);
+
+/// Saves the settings. Throws `HostError` when that fails.
+void saveSettings(const KZExportSettings &settings);
 
 } // namespace host

@@ -5,17 +5,26 @@
 #include "PluginListing.h"
 #include "Terminal.h"
 
+#ifdef ORVANE_HOST_WITH_WINDOW
+#include "window/WindowProgram.h"
+#endif
+
 #include <OrvaneExportKit/version.h>
 
 #include <QtCore/QCoreApplication>
+
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace host;
 
 namespace {
 
-void run(const CommandLine &commandLine)
+/// Carries out the command, for which no window system is needed. Without one, answers the window to show.
+std::optional<WindowRequest> runCommand(int argc, char *argv[])
 {
+    const QCoreApplication application(argc, argv);
+    const CommandLine commandLine(QCoreApplication::arguments());
     switch (commandLine.task()) {
     case CommandLine::Task::ShowHelp:
         printResult(commandLine.helpText());
@@ -29,18 +38,27 @@ void run(const CommandLine &commandLine)
     case CommandLine::Task::Export:
         runExport(commandLine.exportRequest(), PluginFolder(commandLine.pluginFolder()));
         break;
+    case CommandLine::Task::ShowWindow:
+        return commandLine.windowRequest();
     }
     flushResults();
+    return std::nullopt;
 }
+
+#ifndef ORVANE_HOST_WITH_WINDOW
+int showWindow(int /*argc*/, char * /*argv*/[], const WindowRequest & /*request*/)
+{
+    throw HostError(ExitCode::Display, u"this program was built without windows; use the command export"_s);
+}
+#endif
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    const QCoreApplication application(argc, argv);
     try {
-        run(CommandLine(QCoreApplication::arguments()));
-        return static_cast<int>(ExitCode::Success);
+        const std::optional<WindowRequest> window = runCommand(argc, argv);
+        return window ? showWindow(argc, argv, *window) : static_cast<int>(ExitCode::Success);
     } catch (const HostError &error) {
         printError(error.message());
         return static_cast<int>(error.exitCode());

@@ -152,11 +152,13 @@ TEST_F(CommandLine, WhatIsMissingOrWrongIsNamed)
     const auto usageError = [this](const QString &piece, const QStringList &arguments) {
         return failedWith(1, {piece, u"--help"_s}, runInDestination(arguments));
     };
-    EXPECT_TRUE(usageError(u"export MANUSCRIPT"_s, {}));
+    EXPECT_TRUE(usageError(u"export MANUSCRIPT"_s, {u"--plugin"_s, u"plain-text"_s}));
     EXPECT_TRUE(usageError(u"no command 'import'"_s, {u"import"_s, manuscript()}));
     EXPECT_TRUE(usageError(u"one manuscript"_s, {u"export"_s}));
     EXPECT_TRUE(usageError(u"one manuscript"_s, {u"export"_s, u""_s}));
     EXPECT_TRUE(usageError(u"one manuscript"_s, {u"export"_s, manuscript(), manuscript()}));
+    EXPECT_TRUE(usageError(u"one manuscript"_s, {u"open"_s}));
+    EXPECT_TRUE(usageError(u"--to belongs to"_s, {u"open"_s, manuscript(), u"--to"_s, destination()}));
     EXPECT_TRUE(usageError(u"--plugin"_s, {u"export"_s, manuscript(), u"--to"_s, destination()}));
     EXPECT_TRUE(usageError(u"--to"_s, {u"export"_s, manuscript(), u"--plugin"_s, u"plain-text"_s}));
     EXPECT_TRUE(usageError(u"--to"_s, {u"export"_s, manuscript(), u"--plugin"_s, u"plain-text"_s, u"--to"_s, u""_s}));

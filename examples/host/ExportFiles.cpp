@@ -1,0 +1,90 @@
+#include "ExportFiles.h"
+
+#include "AtomicFile.h"
+#include "HostError.h"
+#include "Messages.h"
+
+#include <OrvaneExportKit/platform/Paths.h>
+
+#include <exception>
+#include <utility>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace host {
+
+namespace {
+
+HostError pluginFailure(const ExportPlugin &plugin, const QString &part, const QString &reason)
+{
+    return {ExitCode::Plugin, Texts::tr("the plug-in %1 failed on %2: %3; change the document or the plug-in's "
+                                        "choices, and export again")
+                                  .arg(plugin.name(), part, reason)};
+}
+
+/// What the plug-in makes; an exception of its own becomes an error that names the part of the export.
+template <typename Make>
+QByteArray madeBy(const ExportPlugin &plugin, const QString &part, const Make &make)
+{
+    try {
+        return make();
+    } catch (const std::exception &exception) {
+        throw pluginFailure(plugin, part, printable(QString::fromUtf8(exception.what())));
+    } catch (...) {
+        throw pluginFailure(plugin, part, Texts::tr("it does not say why"));
+    }
+}
+
+} // namespace
+
+QByteArray exportedDocument(const ManuscriptDocument &document, const ExportPlugin &plugin)
+{
+    const platform::AttributedString text = document.text();
+    return madeBy(plugin, Texts::tr("the document %1").arg(quoted(document.name())),
+                  [&] { return plugin.exportedData(document, text); });
+}
+
+ExportFiles::ExportFiles(const Manuscript &manuscript, const ExportPlugin &plugin, OutputPaths paths)
+    : m_manuscript(manuscript), m_plugin(plugin), m_paths(std::move(paths))
+{
+}
+
+QString ExportFiles::nextName() const
+{
+    const ManuscriptDocument *document = nextDocument();
+    return document != nullptr ? document->name() : platform::lastPathComponent(nextPath());
+}
+
+void ExportFiles::writeNext()
+{
+    const ManuscriptDocument *document = nextDocument();
+    const QString path = nextPath();
+    writeFile(path, document != nullptr ? exportedDocument(*document, m_plugin) : nextAdditionalContent());
+    m_written.append(path);
+}
+
+/// Null when all documents have been written.
+const ManuscriptDocument *ExportFiles::nextDocument() const
+{
+    const auto index = static_cast<std::size_t>(m_written.size());
+    return index < m_manuscript.documents.size() ? &m_manuscript.documents[index] : nullptr;
+}
+
+QString ExportFiles::nextPath() const
+{
+    const qsizetype index = m_written.size();
+    return index < documentCount() ? m_paths.documents[index] : m_paths.additional[index - documentCount()];
+}
+
+QByteArray ExportFiles::nextAdditionalContent() const
+{
+    QList<ExportPlugin::ExportedFile> documentFiles;
+    for (const ManuscriptDocument &document : m_manuscript.documents) {
+        documentFiles.append({&document, platform::lastPathComponent(m_paths.documents[documentFiles.size()])});
+    }
+    const QString name = platform::lastPathComponent(nextPath());
+    return madeBy(m_plugin, Texts::tr("the file %1").arg(quoted(name)),
+                  [&] { return m_plugin.additionalFileData(name, m_manuscript.title, documentFiles); });
+}
+
+} // namespace host

@@ -1,0 +1,38 @@
+#include "Appearance.h"
+
+#include <QtGui/QPalette>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QStyle>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace host {
+
+namespace {
+
+QPalette darkPalette()
+{
+    QPalette palette(QColor(0x35, 0x36, 0x3A), QColor(0x2B, 0x2C, 0x2F));
+    palette.setColor(QPalette::Base, QColor(0x1E, 0x1F, 0x22));
+    palette.setColor(QPalette::AlternateBase, QColor(0x26, 0x27, 0x2A));
+    palette.setColor(QPalette::Highlight, QColor(0x2F, 0x6F, 0xB0));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(0x7A, 0xB8, 0xF5));
+    palette.setColor(QPalette::PlaceholderText, QColor(0xA0, 0xA2, 0xA8));
+    const QColor disabled(0x85, 0x87, 0x8C);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, role, disabled);
+    }
+    return palette;
+}
+
+} // namespace
+
+void useDarkPalette(bool dark)
+{
+    static const QString desktopStyle = QApplication::style()->name();
+    QApplication::setStyle(dark ? u"Fusion"_s : desktopStyle); // the one style that takes all colours from the palette
+    QApplication::setPalette(dark ? darkPalette() : QPalette());
+}
+
+} // namespace host

@@ -1,0 +1,66 @@
+#include "SettingsPanel.h"
+
+#include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/windowing/MessageLabel.h>
+#include <OrvaneExportKit/windowing/PanelBindings.h>
+#include <OrvaneExportKit/windowing/UiLoader.h>
+
+#include <QtWidgets/QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace host {
+
+SettingsPanel::SettingsPanel(QWidget *parent) : QScrollArea(parent)
+{
+    setWidgetResizable(true);
+    setFrameShape(QFrame::StyledPanel);
+    setAccessibleName(tr("Settings of the format"));
+}
+
+SettingsPanel::~SettingsPanel()
+{
+    takePanelOut();
+}
+
+void SettingsPanel::showPanel(ExportPlugin &plugin)
+{
+    takePanelOut();
+    if (plugin.bundle().pathForResource(u"Panel"_s, u"ui"_s).isEmpty()) {
+        showNote(tr("This format has no settings to choose here."));
+        return;
+    }
+    try {
+        auto panel = windowing::UiLoader::load(plugin.bundle(), u"Panel"_s);
+        m_controller = std::make_unique<PanelController>(plugin.settings());
+        windowing::bindPanel(*panel, m_controller.get());
+        m_contentView = new KZContentView;
+        auto *layout = new QVBoxLayout(m_contentView);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(panel.release());
+        setWidget(m_contentView);
+    } catch (const platform::Exception &exception) {
+        showNote(tr("The settings of this format can't be shown: %1").arg(QString::fromUtf8(exception.what())));
+    }
+}
+
+void SettingsPanel::takePanelOut()
+{
+    if (m_contentView != nullptr) {
+        takeWidget();
+        m_contentView->removeFromSuperview();
+        delete m_contentView;
+    }
+}
+
+void SettingsPanel::showNote(const QString &note)
+{
+    auto *label = new windowing::MessageLabel;
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignCenter);
+    label->setMargin(12);
+    label->setText(note);
+    setWidget(label);
+}
+
+} // namespace host
