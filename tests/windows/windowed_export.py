@@ -12,6 +12,8 @@ import time
 import unittest
 from pathlib import Path
 
+from display import PATIENCE, Display, wait_until
+
 PROGRAM = os.environ["ORVANE_WINDOWED_EXPORT"]
 MANUSCRIPTS = Path(os.environ["ORVANE_MANUSCRIPTS"])
 PICTURES = Path(os.environ["ORVANE_PICTURES"])
@@ -19,57 +21,6 @@ PICTURES = Path(os.environ["ORVANE_PICTURES"])
 ENGLISH = "the-lamplighters-ledger"
 GERMAN = "die-gezeitenuhr"
 DOCUMENTS = 11
-PATIENCE = 20  # seconds
-
-
-def wait_until(condition, what):
-    """Waits until a function answers something, and answers that."""
-    end = time.monotonic() + PATIENCE
-    while time.monotonic() < end:
-        answer = condition()
-        if answer:
-            return answer
-        time.sleep(0.02)
-    raise AssertionError(f"waited in vain for {what}")
-
-
-class Display:
-    """A screen with a window manager."""
-
-    def __init__(self, size):
-        self.home = tempfile.TemporaryDirectory()
-        read_end, write_end = os.pipe()
-        self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{size}x24", "-nolisten", "tcp"],
-            pass_fds=[write_end], stderr=subprocess.DEVNULL)
-        os.close(write_end)
-        with os.fdopen(read_end) as number:
-            display = ":" + number.readline().strip()
-        self.environment = {**os.environ, "DISPLAY": display, "HOME": self.home.name, "QT_QPA_PLATFORM": "xcb",
-                            "XDG_RUNTIME_DIR": self.home.name, "LC_ALL": "C.UTF-8"}
-        self.manager = subprocess.Popen(["openbox"], env=self.environment, stderr=subprocess.DEVNULL)
-        wait_until(lambda: self.run("xdotool", "get_num_desktops").returncode == 0, "the window manager")
-
-    def run(self, *command):
-        return subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=PATIENCE)
-
-    def input(self, *arguments):
-        result = self.run("xdotool", *map(str, arguments))
-        if result.returncode != 0:
-            raise AssertionError(f"xdotool {arguments}: {result.stderr}")
-
-    def picture(self, name):
-        path = PICTURES / f"{name}.png"
-        result = self.run("import", "-window", "root", "-define", "png:exclude-chunks=date,time", str(path))
-        if result.returncode != 0:
-            raise AssertionError(result.stderr)
-        return path
-
-    def close(self):
-        for process in (self.manager, self.server):
-            process.terminate()
-            process.wait(PATIENCE)
-        self.home.cleanup()
 
 
 class Export:
@@ -224,7 +175,6 @@ class Appearance(unittest.TestCase):
         self.assertTrue(brightness < 0.4 if dark else brightness > 0.6, f"{picture}: brightness {brightness}")
 
     def test_looks_right_in_every_language_palette_and_scale(self):
-        PICTURES.mkdir(parents=True, exist_ok=True)
         for scale in (1, 2):
             display = Display(f"{scale * 720}x{scale * 500}")
             self.addCleanup(display.close)
@@ -244,11 +194,11 @@ class Appearance(unittest.TestCase):
         options = ["--language", language, "--milliseconds", "150", *(["--dark"] if dark else [])]
         export = Export(display, manuscript, destination, *options, scale=scale)
         question = export.sheet("overwritePanel")
-        self.expect_palette(display, display.picture(f"overwrite-{name}"), dark)
+        self.expect_palette(display, display.picture(PICTURES / f"overwrite-{name}.png"), dark)
         export.click(question, "replaceButton")
         export.sheet("progressPanel")
         time.sleep(0.3)
-        self.expect_palette(display, display.picture(f"progress-{name}"), dark)
+        self.expect_palette(display, display.picture(PICTURES / f"progress-{name}.png"), dark)
         display.input("key", "Escape")
         self.assertEqual(export.end()["end"], "aborted")
 

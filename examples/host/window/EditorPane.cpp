@@ -55,6 +55,7 @@ EditorPane::EditorPane(ManuscriptModel &model, QWidget *parent)
     connect(&m_pause, &QTimer::timeout, this, &EditorPane::commit);
     connect(m_editor, &QPlainTextEdit::textChanged, this, [this] {
         m_pause.start();
+        m_hasUncommittedText = true;
         Q_EMIT typed();
     });
 }
@@ -83,7 +84,8 @@ void EditorPane::showDocument(int row)
 
 void EditorPane::commit()
 {
-    if (m_pause.isActive() && m_document.isValid()) {
+    if (m_hasUncommittedText) {
+        m_hasUncommittedText = false;
         m_pause.stop();
         m_model.setText(m_document.row(), typedText(*m_editor));
     }

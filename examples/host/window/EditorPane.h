@@ -29,7 +29,7 @@ public:
     void commit();
 
     /// Whether something has been typed that is not in the manuscript yet.
-    bool hasUncommittedText() const { return m_pause.isActive(); }
+    bool hasUncommittedText() const { return m_hasUncommittedText; }
 
     QPlainTextEdit &editor() { return *m_editor; }
 
@@ -45,6 +45,7 @@ private:
     windowing::MessageLabel *m_note;
     QPlainTextEdit *m_editor;
     QTimer m_pause;
+    bool m_hasUncommittedText = false;
 };
 
 } // namespace host

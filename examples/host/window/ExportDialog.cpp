@@ -67,6 +67,7 @@ ExportDialog::ExportDialog(const Manuscript &manuscript, const QList<ExportPlugi
     sides->addWidget(formatSide());
     sides->addWidget(filesSide());
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    buttons->button(QDialogButtonBox::Cancel)->setAutoDefault(false); // Return never throws choices away
     m_exportButton = buttons->addButton(tr("&Export"), QDialogButtonBox::AcceptRole);
     m_exportButton->setObjectName(u"exportButton"_s);
     m_exportButton->setDefault(true);

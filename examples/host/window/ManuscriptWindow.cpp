@@ -209,7 +209,7 @@ void ManuscriptWindow::chooseManuscript()
     panel->setWindowTitle(tr("Open Manuscript"));
     panel->setFileMode(QFileDialog::Directory);
     panel->setOption(QFileDialog::ShowDirsOnly);
-    panel->setDirectory(m_model.folder());
+    panel->setDirectory(m_model.folder().isEmpty() ? QDir::homePath() : m_model.folder());
     connect(panel, &QFileDialog::fileSelected, this, &ManuscriptWindow::openManuscript);
     panel->open();
 }

@@ -1,0 +1,79 @@
+#include "EchoPlugin.h"
+
+#include <examples/host/window/PreviewPane.h>
+#include <tests/support/Printers.h>
+
+#include <OrvaneExportKit/windowing/MessageLabel.h>
+
+#include <gtest/gtest.h>
+
+#include <QtTest/QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace host_tests {
+
+namespace {
+
+class PreviewPaneTest : public testing::Test
+{
+protected:
+    bool shows(const QString &text)
+    {
+        return QTest::qWaitFor([this, &text] { return m_pane.text().toPlainText() == text; });
+    }
+
+    QString note() const { return m_pane.findChild<windowing::MessageLabel *>()->text(); }
+
+    EchoPlugin m_plugin;
+    host::ManuscriptDocument m_document{{u"/nowhere"_s, u"One"_s, {}, {}}};
+    host::PreviewPane m_pane{{&m_plugin}};
+};
+
+} // namespace
+
+TEST_F(PreviewPaneTest, ShowsTheFileOfADocument)
+{
+    m_document.setText(platform::AttributedString(u"text"_s));
+    m_pane.showDocument(&m_document);
+    EXPECT_TRUE(shows(u">text"_s));
+}
+
+TEST_F(PreviewPaneTest, FollowsTheSettings)
+{
+    m_document.setText(platform::AttributedString(u"text"_s));
+    m_pane.showDocument(&m_document);
+    EXPECT_TRUE(shows(u">text"_s));
+    m_plugin.settings().setValue(u"#"_s, u"prefix"_s);
+    EXPECT_TRUE(shows(u"#text"_s));
+}
+
+TEST_F(PreviewPaneTest, ShowsAnErrorOfThePluginUntilItIsGone)
+{
+    m_document.setText(platform::AttributedString(u"fail"_s));
+    m_pane.showDocument(&m_document);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return note().contains("no echo"_L1); }));
+    m_document.setText(platform::AttributedString(u"fine"_s));
+    m_pane.showDocument(&m_document);
+    EXPECT_TRUE(shows(u">fine"_s));
+    EXPECT_EQ(note(), QString());
+}
+
+TEST_F(PreviewPaneTest, EndsAfterManyCharactersAndSaysSo)
+{
+    m_document.setText(platform::AttributedString(QString(300'000, u'x')));
+    m_pane.showDocument(&m_document);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return note().contains("200,000"_L1); }));
+    EXPECT_EQ(m_pane.text().toPlainText().size(), 200'000);
+}
+
+TEST_F(PreviewPaneTest, SaysThatThereIsNoPlugin)
+{
+    host::PreviewPane pane({});
+    pane.showDocument(&m_document);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&pane] { return pane.findChild<windowing::MessageLabel *>()->text().contains("no plug-in"_L1); }));
+    EXPECT_EQ(pane.plugin(), nullptr);
+}
+
+} // namespace host_tests
