@@ -34,10 +34,6 @@ public:
     int hours() const { return m_hours; }
     void setHours(int hours) { m_hours = hours; }
 
-    /// The hours at the end of loading.
-    Q_INVOKABLE void awakeFromNib() { hoursWhenAwoken = m_hours; }
-    int hoursWhenAwoken = 0;
-
 private:
     int m_hours = 12;
     int m_hoursWhenAwake = 0;
@@ -121,7 +117,6 @@ TEST_F(UiLoaderTest, CreatesRegisteredClassesWithTheirProperties)
     const auto registration = WidgetClassRegistration::of<TestDial>();
     const auto panel = load();
     EXPECT_EQ(UiLoader::outlet<TestDial>(*panel, u"dial"_s)->hours(), 24);
-    EXPECT_EQ(UiLoader::outlet<TestDial>(*panel, u"dial"_s)->hoursWhenAwoken, 24); // after its properties
 }
 
 TEST_F(UiLoaderTest, WakesWidgetsWhenTheFormIsComplete)
