@@ -5,7 +5,6 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
-#include <QtCore/QJsonObject>
 #include <QtCore/QLibrary>
 #include <QtCore/QPluginLoader>
 
@@ -121,6 +120,7 @@ void PluginFolder::add(const QString &file)
         ExportPlugin *plugin = loadedPlugin(file);
         if (findPlugin(plugin->name()) == nullptr) {
             m_plugins.append(plugin);
+            m_metadata.insert(plugin, QPluginLoader(file).metaData().value("MetaData"_L1).toObject());
             return;
         }
         reason = u"the folder holds another plug-in of the name %1"_s.arg(quoted(plugin->name()));
