@@ -37,8 +37,9 @@ void FontTarget::takeFont(FontPanel *sender)
 
 void FontTarget::store(const QString &name, const QVariant &value)
 {
-    if (const auto binding = infoForBinding(m_field, name)) {
-        platform::setValueForKeyPath(binding->observedObject, value, binding->observedKeyPath);
+    const auto info = infoForBinding(m_field, name);
+    if (info && info->observedObject != nullptr) {
+        platform::setValueForKeyPath(info->observedObject, value, info->observedKeyPath);
     }
     m_field->setProperty(name.toLatin1().constData(), value);
 }

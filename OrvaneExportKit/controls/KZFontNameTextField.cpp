@@ -9,7 +9,6 @@
 #include <OrvaneExportKit/windowing/FontPanel.h>
 #include <OrvaneExportKit/windowing/Frames.h>
 #include <OrvaneExportKit/windowing/TextAttributes.h>
-#include <OrvaneExportKit/windowing/UiLoader.h>
 
 #include <QtGui/QHelpEvent>
 #include <QtGui/QKeyEvent>
@@ -23,8 +22,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-const auto registration = windowing::WidgetClassRegistration::of<KZFontNameTextField>();
 
 const bool exposed = [] {
     for (const QString &name : {u"selectedFontAttributes"_s, u"selectedFontName"_s, u"selectedFontSize"_s}) {

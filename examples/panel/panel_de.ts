@@ -80,28 +80,28 @@
         <translation> Zeichen</translation>
     </message>
     <message>
-        <source>&amp;Encoding:</source>
+        <source>En&amp;coding:</source>
         <translation>Ko&amp;dierung:</translation>
     </message>
     <message>
-        <source>&amp;First lines:</source>
+        <source>F&amp;irst lines:</source>
         <translation>&amp;Erste Zeilen:</translation>
     </message>
     <message>
-        <source>&amp;Top:</source>
-        <translation>&amp;Oben:</translation>
+        <source>&amp;Top margin:</source>
+        <translation>Rand &amp;oben:</translation>
     </message>
     <message>
-        <source>Botto&amp;m:</source>
-        <translation>Un&amp;ten:</translation>
+        <source>Botto&amp;m margin:</source>
+        <translation>Rand un&amp;ten:</translation>
     </message>
     <message>
-        <source>Le&amp;ft:</source>
-        <translation>L&amp;inks:</translation>
+        <source>L&amp;eft margin:</source>
+        <translation>Rand l&amp;inks:</translation>
     </message>
     <message>
-        <source>&amp;Right:</source>
-        <translation>&amp;Rechts:</translation>
+        <source>&amp;Right margin:</source>
+        <translation>Rand &amp;rechts:</translation>
     </message>
     <message>
         <source>Export Settings</source>
@@ -116,8 +116,44 @@
         <translation>Text</translation>
     </message>
     <message>
-        <source>Margins</source>
-        <translation>Ränder</translation>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>&amp;Font:</source>
+        <translation>&amp;Schrift:</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papier:</translation>
+    </message>
+    <message>
+        <source>Other size</source>
+        <translation>Andere Größe</translation>
+    </message>
+    <message>
+        <source>US Letter</source>
+        <translation>US-Letter</translation>
+    </message>
+    <message>
+        <source>US Legal</source>
+        <translation>US-Legal</translation>
+    </message>
+    <message>
+        <source>Page preview</source>
+        <translation>Seitenvorschau</translation>
+    </message>
+    <message>
+        <source>Empty lines between paragraphs</source>
+        <translation>Leerzeilen zwischen Absätzen</translation>
+    </message>
+    <message>
+        <source>Empty lines before headings only</source>
+        <translation>Leerzeilen nur vor Überschriften</translation>
+    </message>
+    <message>
+        <source>No empty lines</source>
+        <translation>Keine Leerzeilen</translation>
     </message>
     <message>
         <source>Text at the start of every file</source>

@@ -1,4 +1,6 @@
+#include <OrvaneExportKit/windowing/FontPanel.h>
 #include <OrvaneExportKit/windowing/PanelBindings.h>
+#include <OrvaneExportKit/windowing/TextAttributes.h>
 #include <OrvaneExportKit/windowing/TokenField.h>
 #include <OrvaneExportKit/windowing/UiLoader.h>
 #include <examples/panel/PanelOwner.h>
@@ -6,6 +8,8 @@
 #include <tests/support/TemporaryDefaults.h>
 
 #include <OrvaneExportKit/controls/KZContentView.h>
+#include <OrvaneExportKit/controls/KZFontNameTextField.h>
+#include <OrvaneExportKit/controls/KZPageView.h>
 #include <OrvaneExportKit/platform/KeyPaths.h>
 
 #include <QtTest/QTest>
@@ -75,6 +79,10 @@ TEST_F(PanelExample, ShowsEverySetting)
     EXPECT_EQ(control<QComboBox>(u"encodingBox"_s).currentText(), u"UTF-8"_s);
     EXPECT_NEAR(control<QDoubleSpinBox>(u"topField"_s).value(), 72.0F * KZExportSettings::measurementUnitFactor(),
                 0.005);
+    EXPECT_EQ(control<KZFontNameTextField>(u"fontField"_s).text(), stored(u"font.name"_s).toString() + u", 12pt"_s);
+    EXPECT_EQ(control<QComboBox>(u"paperMenu"_s).currentText(), u"A4"_s);
+    EXPECT_EQ(control<KZPageView>(u"pageView"_s).paperSize(), QSizeF(595.28, 841.89));
+    EXPECT_EQ(control<KZPageView>(u"pageView"_s).topMargin(), 72.0F);
 }
 
 TEST_F(PanelExample, StoresWhatTheUserEnters)
@@ -93,6 +101,7 @@ TEST_F(PanelExample, StoresWhatTheUserEnters)
     replaceText(control<QSpinBox>(u"lineLengthField"_s), u"80"_s);
     replaceText(control<QComboBox>(u"encodingBox"_s), u"UTF-16"_s);
     replaceText(control<QPlainTextEdit>(u"headerEdit"_s), u"Draft"_s);
+    QTest::keyClick(&control<QComboBox>(u"paperMenu"_s), Qt::Key_Down);
     replaceText(control<QDoubleSpinBox>(u"bottomField"_s), u"0"_s);
 
     EXPECT_EQ(stored(u"fileName"_s), QVariant(QVariantList{u"My "_s, u"<4>"_s}));
@@ -106,6 +115,43 @@ TEST_F(PanelExample, StoresWhatTheUserEnters)
     EXPECT_EQ(stored(u"header"_s), QVariant(u"Draft"_s));
     EXPECT_EQ(stored(u"margin.bottom"_s), QVariant(0.0F));
     EXPECT_EQ(stored(u"margin.top"_s).toFloat(), 72.0F);
+    EXPECT_EQ(stored(u"paper"_s), QVariant(u"{419.53, 595.28}"_s));
+}
+
+TEST_F(PanelExample, ShowsThePageAsItIsEdited)
+{
+    QTest::keyClick(&control<QComboBox>(u"paperMenu"_s), Qt::Key_Down);
+    replaceText(control<QDoubleSpinBox>(u"leftField"_s), u"0"_s);
+    const auto &page = control<KZPageView>(u"pageView"_s);
+    EXPECT_EQ(page.paperSize(), QSizeF(419.53, 595.28));
+    EXPECT_EQ(page.leftMargin(), 0.0F);
+    EXPECT_EQ(page.rightMargin(), 72.0F);
+}
+
+TEST_F(PanelExample, StoresTheFontThatIsChosenInTheFontPanel)
+{
+    auto &field = control<KZFontNameTextField>(u"fontField"_s);
+    field.setFocus();
+    QTest::keyClick(&field, Qt::Key_Space);
+    auto &fonts = windowing::FontPanel::sharedFontPanel();
+    replaceText(*fonts.findChild<QDoubleSpinBox *>(), u"14"_s);
+    const QList<QCheckBox *> boxes = fonts.findChildren<QCheckBox *>();
+    for (QCheckBox *box : boxes) {
+        box->setChecked(true);
+    }
+    fonts.close();
+
+    EXPECT_EQ(stored(u"font.size"_s), QVariant(14.0));
+    EXPECT_EQ(field.text(), stored(u"font.name"_s).toString() + u", 14pt"_s);
+
+    m_owner->settings()->writeSettingsToDefaults();
+    const QVariantMap attributes = PanelOwner().fontAttributes().toMap();
+    EXPECT_EQ(attributes, field.selectedFontAttributes().toMap());
+    for (const QLatin1StringView name :
+         {windowing::underlineStyleAttributeName, windowing::strikethroughStyleAttributeName,
+          windowing::foregroundColorAttributeName, windowing::backgroundColorAttributeName}) {
+        EXPECT_TRUE(attributes.contains(name)) << name.data();
+    }
 }
 
 TEST_F(PanelExample, ShowsWhatOthersStore)
@@ -119,9 +165,10 @@ TEST_F(PanelExample, ShowsWhatOthersStore)
 
 TEST_F(PanelExample, ReachesEveryControlByKeyboardInOrder)
 {
-    const QStringList names{u"convertSpacesBox"_s, u"quotationsMenu"_s,  u"paragraphsButton"_s, u"lineHeightSlider"_s,
-                            u"lineHeightField"_s,  u"lineLengthField"_s, u"encodingBox"_s,      u"headerEdit"_s,
-                            u"topField"_s,         u"bottomField"_s,     u"leftField"_s,        u"rightField"_s};
+    const QStringList names{u"convertSpacesBox"_s, u"fontField"_s,       u"quotationsMenu"_s,  u"paragraphsButton"_s,
+                            u"lineHeightSlider"_s, u"lineHeightField"_s, u"lineLengthField"_s, u"encodingBox"_s,
+                            u"headerEdit"_s,       u"paperMenu"_s,       u"topField"_s,        u"bottomField"_s,
+                            u"leftField"_s,        u"rightField"_s};
     control<windowing::TokenField>(u"fileNameField"_s).setFocus();
     for (const QString &name : names) {
         QTest::keyClick(m_panel->focusWidget(), Qt::Key_Tab);

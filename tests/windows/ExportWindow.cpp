@@ -1,6 +1,6 @@
 #include "ExportWindow.h"
 
-#include "SheetReporter.h"
+#include "WindowReporter.h"
 
 #include <OrvaneExportKit/OrvaneExportKit.h>
 #include <OrvaneExportKit/run/KZExportProgress.h>

@@ -1,5 +1,6 @@
+#include "DarkPalette.h"
 #include "ExportWindow.h"
-#include "SheetReporter.h"
+#include "WindowReporter.h"
 
 #include <OrvaneExportKit/platform/Translations.h>
 
@@ -12,19 +13,6 @@
 /// it real input.
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-QPalette darkPalette()
-{
-    QPalette palette(QColor(0x2D, 0x2D, 0x30), QColor(0x23, 0x23, 0x26));
-    palette.setColor(QPalette::Base, QColor(0x1E, 0x1E, 0x20));
-    palette.setColor(QPalette::AlternateBase, QColor(0x28, 0x28, 0x2B));
-    palette.setColor(QPalette::Highlight, QColor(0x3D, 0x7A, 0xB8));
-    return palette;
-}
-
-} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -46,7 +34,7 @@ int main(int argc, char *argv[])
     if (parser.isSet(u"dark"_s)) {
         QApplication::setPalette(darkPalette());
     }
-    const SheetReporter reporter;
+    const WindowReporter reporter;
     ExportWindow window(folders[0], folders[1], parser.value(u"milliseconds"_s).toULong());
     window.show();
     return QApplication::exec();

@@ -4,59 +4,33 @@ The program under test says on its standard output which sheets it shows. Pictur
 two palettes and two scales, are left in the folder ORVANE_PICTURES.
 """
 
-import json
 import os
-import subprocess
 import tempfile
 import time
 import unittest
 from pathlib import Path
 
-from display import PATIENCE, Display, wait_until
+from windows import Display, Program, expect_palette
 
 PROGRAM = os.environ["ORVANE_WINDOWED_EXPORT"]
 MANUSCRIPTS = Path(os.environ["ORVANE_MANUSCRIPTS"])
-PICTURES = Path(os.environ["ORVANE_PICTURES"])
 
 ENGLISH = "the-lamplighters-ledger"
 GERMAN = "die-gezeitenuhr"
 DOCUMENTS = 11
 
 
-class Export:
+class Export(Program):
     """A run of the program."""
 
-    def __init__(self, display, manuscript, destination, *options, scale=1):
-        self.display = display
-        self.process = subprocess.Popen(
-            [PROGRAM, str(MANUSCRIPTS / manuscript), str(destination), *options],
-            env={**display.environment, "QT_SCALE_FACTOR": str(scale)}, stdout=subprocess.PIPE, text=True)
-
-    def message(self):
-        line = self.process.stdout.readline()
-        if not line:
-            raise AssertionError(f"the program ended with {self.process.wait(PATIENCE)}")
-        return json.loads(line)
-
-    def sheet(self, name):
-        """Waits for a sheet, and until it has the keyboard."""
-        message = self.message()
-        assert message.get("sheet") == name, message
-        wait_until(lambda: self.display.run("xdotool", "getactivewindow").stdout.strip() == str(message["window"]),
-                   f"{name} to be active")
-        time.sleep(0.2)  # until it is drawn
-        return message
-
-    def click(self, sheet, button):
-        x, y = sheet["buttons"][button]
-        self.display.input("mousemove", "--window", sheet["window"], x, y, "click", 1)
+    def __init__(self, display, manuscript, destination, *options, **keywords):
+        super().__init__(display, PROGRAM, MANUSCRIPTS / manuscript, destination, *options, **keywords)
 
     def end(self):
         """How the export ended, once the program has ended."""
         result = self.message()
         result.update(self.message())
-        self.process.stdout.close()
-        assert self.process.wait(PATIENCE) == 0
+        self.wait()
         return result
 
 
@@ -74,8 +48,7 @@ class WindowedExport(unittest.TestCase):
 
     def run_export(self, *options, manuscript=ENGLISH, **keywords):
         export = Export(self.display, manuscript, self.destination, *options, **keywords)
-        self.addCleanup(export.process.wait)
-        self.addCleanup(export.process.kill)
+        self.addCleanup(export.kill)
         return export
 
     def files(self):
@@ -98,24 +71,24 @@ class WindowedExport(unittest.TestCase):
 
     def test_exports_into_an_empty_folder_without_asking(self):
         export = self.run_export()
-        export.sheet("progressPanel")
+        export.window("progressPanel")
         self.assertEqual(export.end(), {"end": "finished", "exported": DOCUMENTS, "documentChanged": False})
         self.assertEqual(len(self.files()), DOCUMENTS)
 
     def test_replaces_files_after_a_click(self):
         self.put_down_files()
         export = self.run_export()
-        export.click(export.sheet("overwritePanel"), "replaceButton")
-        export.sheet("progressPanel")
+        export.click(export.window("overwritePanel"), "replaceButton")
+        export.window("progressPanel")
         self.assertEqual(export.end(), {"end": "finished", "exported": DOCUMENTS, "documentChanged": False})
         self.assertNotIn("old", self.files().values())
 
     def test_replaces_files_by_keyboard(self):
         self.put_down_files()
         export = self.run_export()
-        export.sheet("overwritePanel")
+        export.window("overwritePanel")
         self.display.input("key", "alt+r")
-        export.sheet("progressPanel")
+        export.window("progressPanel")
         self.assertEqual(export.end()["end"], "finished")
         self.assertNotIn("old", self.files().values())
 
@@ -130,7 +103,7 @@ class WindowedExport(unittest.TestCase):
         for name, cancel in cancelling.items():
             with self.subTest(name):
                 export = self.run_export()
-                cancel(export, export.sheet("overwritePanel"))
+                cancel(export, export.window("overwritePanel"))
                 self.assertEqual(export.end(), {"end": "cancelled", "documentChanged": False})
                 self.expect_unchanged()
 
@@ -145,7 +118,7 @@ class WindowedExport(unittest.TestCase):
                 for path in self.destination.iterdir():
                     path.unlink()
                 export = self.run_export("--milliseconds", "200")
-                abort(export, export.sheet("progressPanel"))
+                abort(export, export.window("progressPanel"))
                 result = export.end()
                 self.assertEqual(result["end"], "aborted")
                 self.assertLess(result["exported"], DOCUMENTS)
@@ -154,25 +127,16 @@ class WindowedExport(unittest.TestCase):
     def test_keeps_input_from_the_document_window_while_a_sheet_is_up(self):
         self.put_down_files()
         export = self.run_export("--milliseconds", "200")
-        question = export.sheet("overwritePanel")
+        question = export.window("overwritePanel")
         self.display.input("mousemove", 120, 120, "click", 1, "type", "xyz")
         export.click(question, "replaceButton")
-        export.sheet("progressPanel")
+        export.window("progressPanel")
         self.display.input("mousemove", 120, 120, "click", 1, "type", "xyz")
         self.assertEqual(export.end(), {"end": "finished", "exported": DOCUMENTS, "documentChanged": False})
 
 
 class Appearance(unittest.TestCase):
     """Takes the pictures, and sees that the sheets are as light or dark as they should be."""
-
-    def brightness(self, display, picture):
-        result = display.run("convert", str(picture), "-gravity", "center", "-crop", "30%x20%+0+0",
-                             "-format", "%[fx:mean]", "info:")
-        return float(result.stdout)
-
-    def expect_palette(self, display, picture, dark):
-        brightness = self.brightness(display, picture)
-        self.assertTrue(brightness < 0.4 if dark else brightness > 0.6, f"{picture}: brightness {brightness}")
 
     def test_looks_right_in_every_language_palette_and_scale(self):
         for scale in (1, 2):
@@ -193,12 +157,12 @@ class Appearance(unittest.TestCase):
         name = f"{language}-{'dark' if dark else 'light'}-{scale}00"
         options = ["--language", language, "--milliseconds", "150", *(["--dark"] if dark else [])]
         export = Export(display, manuscript, destination, *options, scale=scale)
-        question = export.sheet("overwritePanel")
-        self.expect_palette(display, display.picture(PICTURES / f"overwrite-{name}.png"), dark)
+        question = export.window("overwritePanel")
+        expect_palette(self, display, display.picture(f"overwrite-{name}"), dark)
         export.click(question, "replaceButton")
-        export.sheet("progressPanel")
+        export.window("progressPanel")
         time.sleep(0.3)
-        self.expect_palette(display, display.picture(PICTURES / f"progress-{name}.png"), dark)
+        expect_palette(self, display, display.picture(f"progress-{name}"), dark)
         display.input("key", "Escape")
         self.assertEqual(export.end()["end"], "aborted")
 
