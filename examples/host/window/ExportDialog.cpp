@@ -74,7 +74,7 @@ ExportDialog::ExportDialog(const Manuscript &manuscript, const QList<ExportPlugi
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(sides, 1);
     layout->addWidget(buttons);
-    resize(920, 560);
+    resize(1000, 600);
     m_format->setFocus();
 
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

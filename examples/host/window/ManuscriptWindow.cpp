@@ -175,14 +175,14 @@ void ManuscriptWindow::addPanes()
     header->setSectionResizeMode(ManuscriptModel::NameColumn, QHeaderView::Stretch);
     for (const int column :
          {ManuscriptModel::StatusColumn, ManuscriptModel::LabelColumn, ManuscriptModel::WordsColumn}) {
-        header->resizeSection(column, 9 * m_documents->fontMetrics().averageCharWidth() + 16);
+        header->resizeSection(column, 11 * m_documents->fontMetrics().averageCharWidth() + 16);
     }
 
     m_panes->addWidget(m_documents);
     m_panes->addWidget(m_editor);
     m_panes->addWidget(m_preview);
     m_panes->setChildrenCollapsible(false);
-    m_panes->setSizes({360, 400, 340});
+    m_panes->setSizes({380, 390, 330});
     m_pages->addWidget(m_panes);
 
     auto *content = new QWidget;
@@ -351,7 +351,7 @@ void ManuscriptWindow::focusText()
 
 void ManuscriptWindow::focusPreview()
 {
-    m_preview->text().setFocus(Qt::ShortcutFocusReason);
+    m_preview->focusFile();
 }
 
 } // namespace host
