@@ -173,10 +173,10 @@ void ManuscriptWindow::addPanes()
     QHeaderView *header = m_documents->header();
     header->setStretchLastSection(false);
     header->setSectionResizeMode(ManuscriptModel::NameColumn, QHeaderView::Stretch);
-    for (const int column :
-         {ManuscriptModel::StatusColumn, ManuscriptModel::LabelColumn, ManuscriptModel::WordsColumn}) {
-        header->resizeSection(column, 11 * m_documents->fontMetrics().averageCharWidth() + 16);
-    }
+    const int width = m_documents->fontMetrics().averageCharWidth();
+    header->resizeSection(ManuscriptModel::StatusColumn, 14 * width);
+    header->resizeSection(ManuscriptModel::LabelColumn, 11 * width);
+    header->resizeSection(ManuscriptModel::WordsColumn, 10 * width);
 
     m_panes->addWidget(m_documents);
     m_panes->addWidget(m_editor);
