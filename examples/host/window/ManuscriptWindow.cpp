@@ -103,8 +103,8 @@ void ManuscriptWindow::closeEvent(QCloseEvent *event)
     event->accept();
 }
 
-QAction *ManuscriptWindow::addAction(QMenu *menu, const QString &text, const QKeySequence &shortcut,
-                                     void (ManuscriptWindow::*slot)())
+QAction *ManuscriptWindow::addManuscriptAction(QMenu *menu, const QString &text, const QKeySequence &shortcut,
+                                               void (ManuscriptWindow::*slot)())
 {
     QAction *action = menu->addAction(text, shortcut, this, slot);
     action->setEnabled(false);
@@ -123,7 +123,7 @@ void ManuscriptWindow::addFileMenu()
                                    QKeySequence::Save, this, &ManuscriptWindow::save);
     menu->addSeparator();
     QAction *exporting =
-        addAction(menu, tr("&Export…"), QKeySequence(Qt::CTRL | Qt::Key_E), &ManuscriptWindow::chooseExport);
+        addManuscriptAction(menu, tr("&Export…"), QKeySequence(Qt::CTRL | Qt::Key_E), &ManuscriptWindow::chooseExport);
     exporting->setIcon(iconNamed(u"document-export"_s, *this, QStyle::SP_ArrowRight));
     menu->addSeparator();
     menu->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
@@ -139,14 +139,15 @@ void ManuscriptWindow::addFileMenu()
 void ManuscriptWindow::addGoMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&Go"));
-    addAction(menu, tr("&Next Document"), QKeySequence(Qt::CTRL | Qt::Key_PageDown),
-              &ManuscriptWindow::moveToNextDocument);
-    addAction(menu, tr("&Previous Document"), QKeySequence(Qt::CTRL | Qt::Key_PageUp),
-              &ManuscriptWindow::moveToPreviousDocument);
+    addManuscriptAction(menu, tr("&Next Document"), QKeySequence(Qt::CTRL | Qt::Key_PageDown),
+                        &ManuscriptWindow::moveToNextDocument);
+    addManuscriptAction(menu, tr("&Previous Document"), QKeySequence(Qt::CTRL | Qt::Key_PageUp),
+                        &ManuscriptWindow::moveToPreviousDocument);
     menu->addSeparator();
-    addAction(menu, tr("List of &Documents"), QKeySequence(Qt::CTRL | Qt::Key_1), &ManuscriptWindow::focusDocuments);
-    addAction(menu, tr("&Text"), QKeySequence(Qt::CTRL | Qt::Key_2), &ManuscriptWindow::focusText);
-    addAction(menu, tr("Pre&view"), QKeySequence(Qt::CTRL | Qt::Key_3), &ManuscriptWindow::focusPreview);
+    addManuscriptAction(menu, tr("List of &Documents"), QKeySequence(Qt::CTRL | Qt::Key_1),
+                        &ManuscriptWindow::focusDocuments);
+    addManuscriptAction(menu, tr("&Text"), QKeySequence(Qt::CTRL | Qt::Key_2), &ManuscriptWindow::focusText);
+    addManuscriptAction(menu, tr("Pre&view"), QKeySequence(Qt::CTRL | Qt::Key_3), &ManuscriptWindow::focusPreview);
 }
 
 void ManuscriptWindow::addViewMenu()
