@@ -29,6 +29,7 @@
 #include <OrvaneExportKit/platform/Translations.h>
 #include <OrvaneExportKit/platform/UserDefaults.h>
 #include <OrvaneExportKit/platform/ValueTransformer.h>
+#include <OrvaneExportKit/platform/YesNoTransformer.h>
 #include <OrvaneExportKit/run/AbortFlag.h>
 #include <OrvaneExportKit/run/ArchivedContent.h>
 #include <OrvaneExportKit/run/ExportDocument.h>

@@ -1,7 +1,9 @@
 #include <designer/Controls.h>
 
+#include <OrvaneExportKit/controls/KZContentView.h>
 #include <OrvaneExportKit/controls/KZFontNameTextField.h>
 #include <OrvaneExportKit/controls/KZPageView.h>
+#include <OrvaneExportKit/windowing/TokenField.h>
 
 #include <QtGui/QIcon>
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
@@ -54,12 +56,18 @@ private:
 
 Controls::Controls(QObject *parent) : QObject(parent)
 {
+    m_controls.push_back(std::make_unique<Control<KZContentView>>(
+        Description{u"OrvaneExportKit/controls/KZContentView.h"_s, u"Container that ends edits"_s,
+                    u"Holds a panel, and stores what the user is typing when the panel is taken out."_s, true}));
     m_controls.push_back(std::make_unique<Control<KZFontNameTextField>>(
         Description{u"OrvaneExportKit/controls/KZFontNameTextField.h"_s, u"Font by name and size"_s,
                     u"Shows a font by name and size, and lets the user choose another in the font panel."_s}));
     m_controls.push_back(std::make_unique<Control<KZPageView>>(
         Description{u"OrvaneExportKit/controls/KZPageView.h"_s, u"Page with margins"_s,
                     u"Shows a page of the chosen size, with the area that its margins leave for text."_s}));
+    m_controls.push_back(std::make_unique<Control<windowing::TokenField>>(
+        Description{u"OrvaneExportKit/windowing/TokenField.h"_s, u"Text with tokens"_s,
+                    u"Takes free text with tokens in it, such as a pattern for file names."_s}));
 }
 
 Controls::~Controls() = default;

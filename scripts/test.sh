@@ -6,6 +6,8 @@ cd "$(dirname "$0")/.."
 
 install_packages "${build_packages[@]}" "${test_packages[@]}"
 export QT_QPA_PLATFORM=offscreen
+# One cache serves checkouts in any folder.
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
 
 # Configures, builds and tests one build folder: its name, then options for CMake.
 build_and_test() {

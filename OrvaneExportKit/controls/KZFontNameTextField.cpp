@@ -2,11 +2,14 @@
 
 #include <OrvaneExportKit/platform/ArchivedClass.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/platform/KeyPaths.h>
 #include <OrvaneExportKit/windowing/ArchivedViews.h>
+#include <OrvaneExportKit/windowing/Binding.h>
 #include <OrvaneExportKit/windowing/Font.h>
 #include <OrvaneExportKit/windowing/FontPanel.h>
 #include <OrvaneExportKit/windowing/Frames.h>
 #include <OrvaneExportKit/windowing/TextAttributes.h>
+#include <OrvaneExportKit/windowing/UiLoader.h>
 
 #include <QtGui/QHelpEvent>
 #include <QtGui/QKeyEvent>
@@ -20,6 +23,15 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+const auto registration = windowing::WidgetClassRegistration::of<KZFontNameTextField>();
+
+const bool exposed = [] {
+    for (const QString &name : {u"selectedFontAttributes"_s, u"selectedFontName"_s, u"selectedFontSize"_s}) {
+        windowing::exposeBinding(KZFontNameTextField::staticMetaObject, name);
+    }
+    return true;
+}();
 
 constexpr float firstSize = 10.0F;
 
@@ -123,11 +135,6 @@ void KZFontNameTextField::encodeWithCoder(platform::Coder &coder) const
     coder.encodeValueOfObjCType("f", &m_selectedFontSize);
 }
 
-QStringList KZFontNameTextField::exposedBindings()
-{
-    return {u"selectedFontAttributes"_s, u"selectedFontName"_s, u"selectedFontSize"_s};
-}
-
 void KZFontNameTextField::setSelectedFontAttributes(const QVariant &attributes)
 {
     m_selectedFontAttributes = attributes;
@@ -197,6 +204,10 @@ void KZFontNameTextField::changeDocumentBackgroundColor(windowing::FontPanel *se
 /// The model comes first: who observes it sees the new value while the field still shows the old one.
 void KZFontNameTextField::takeAttributes(const QVariantMap &attributes)
 {
+    const auto info = windowing::infoForBinding(this, u"selectedFontAttributes"_s);
+    if (info && info->observedObject != nullptr) {
+        platform::setValueForKeyPath(info->observedObject, attributes, info->observedKeyPath);
+    }
     setSelectedFontAttributes(attributes);
 }
 

@@ -7,7 +7,6 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QPointer>
 #include <QtCore/QRectF>
-#include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
 #include <memory>
@@ -24,7 +23,8 @@ class FontPanel;
 /// rounded to even: 12.5 shows 12. Without a name the text begins with "(null)".
 ///
 /// What the user changes about the font goes to the field's target, which sets name and size; what the user changes
-/// about attributes the field sets itself, and in what its `selectedFontAttributes` are bound to.
+/// about attributes the field sets itself, and before that in what its `selectedFontAttributes` are bound to, past any
+/// transformer.
 ///
 ///     fontField->setTarget(this);
 ///     fontField->setAction("takeFont");
@@ -54,9 +54,6 @@ public:
     ///
     /// A field from an archive without keys shows size 0 until one of its values is set.
     void encodeWithCoder(platform::Coder &coder) const;
-
-    /// The values that a panel can bind, in the order of the fields.
-    static QStringList exposedBindings();
 
     /// The chosen attributes, a `QVariantMap`; invalid for none.
     QVariant selectedFontAttributes() const { return m_selectedFontAttributes; }

@@ -3,8 +3,10 @@
 #include <OrvaneExportKit/platform/ArchivedClass.h>
 #include <OrvaneExportKit/settings/MeasurementUnits.h>
 #include <OrvaneExportKit/windowing/ArchivedViews.h>
+#include <OrvaneExportKit/windowing/Binding.h>
 #include <OrvaneExportKit/windowing/Frames.h>
 #include <OrvaneExportKit/windowing/PrintInfo.h>
+#include <OrvaneExportKit/windowing/UiLoader.h>
 
 #include <QtCore/QLocale>
 #include <QtGui/QPainter>
@@ -18,6 +20,15 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+const auto registration = windowing::WidgetClassRegistration::of<KZPageView>();
+
+const bool exposed = [] {
+    for (const QString &name : {u"paperSize"_s, u"topMargin"_s, u"leftMargin"_s, u"rightMargin"_s, u"bottomMargin"_s}) {
+        windowing::exposeBinding(KZPageView::staticMetaObject, name);
+    }
+    return true;
+}();
 
 /// What a screen reader says about a page view.
 class AccessiblePageView final : public QAccessibleWidget
@@ -157,11 +168,6 @@ void KZPageView::encodeWithCoder(platform::Coder &coder) const
     for (const void *item : nonKeyedItems(paperSize, margins)) {
         coder.encodeValueOfObjCType("f", item);
     }
-}
-
-QStringList KZPageView::exposedBindings()
-{
-    return {u"paperSize"_s, u"topMargin"_s, u"leftMargin"_s, u"rightMargin"_s, u"bottomMargin"_s};
 }
 
 void KZPageView::setPaperSize(QSizeF size)

@@ -48,9 +48,6 @@ public:
     /// stays.
     void encodeWithCoder(platform::Coder &coder) const;
 
-    /// The values that a panel can bind, in the order of the fields.
-    static QStringList exposedBindings();
-
     QSizeF paperSize() const { return m_paperSize; }
     float topMargin() const { return m_margins.top; }
     float leftMargin() const { return m_margins.left; }

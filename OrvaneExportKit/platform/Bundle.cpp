@@ -1,5 +1,6 @@
 #include <OrvaneExportKit/platform/Bundle.h>
 
+#include <OrvaneExportKit/platform/BundleTranslator.h>
 #include <OrvaneExportKit/platform/Paths.h>
 
 #include <QtCore/QCoreApplication>
@@ -72,7 +73,7 @@ QString Bundle::localizedStringForKey(const QString &key, const QString &value, 
 }
 
 BundleRegistration::BundleRegistration(const QString &identifier, const QString &resourceRoot)
-    : m_bundle(identifier, resourceRoot)
+    : m_bundle(identifier, resourceRoot), m_translator(std::make_unique<BundleTranslator>(m_bundle))
 {
     registeredBundles().append(m_bundle);
 }

@@ -5,12 +5,16 @@
 #include <QtCore/QMetaObject>
 #include <QtCore/QString>
 
+#include <memory>
+
 /// The identifier of the bundle that the kit takes its own texts from, "org.orvane.ExportKit" at first. It is ready
 /// when a plug-in's own static initialisers run. A host that has registered a bundle with other texts may write that
 /// bundle's identifier into it.
 extern ORVANE_CORE_EXPORT QString bndlIdentifier;
 
 namespace platform {
+
+class BundleTranslator;
 
 /// A place that resources come from: an identifier in reverse-domain form, and a root, which is an absolute folder or a
 /// prefix of Qt's resource system.
@@ -80,6 +84,9 @@ private:
 ///
 ///     const platform::BundleRegistration bundle(u"com.example.html"_s, u":/com.example.html"_s);
 ///
+/// The bundle's translations are among the application's translators for as long: those for German are the resource
+/// "translations/de.qm". They follow the language of `platform::setLanguage`, and their contexts are the plug-in's own.
+///
 /// A later registration of the same identifier, the kit's own included, stands before the earlier ones until it ends.
 /// For use on the application's main thread.
 class ORVANE_CORE_EXPORT BundleRegistration
@@ -92,6 +99,7 @@ public:
 
 private:
     Bundle m_bundle;
+    std::unique_ptr<BundleTranslator> m_translator;
 };
 
 } // namespace platform

@@ -13,6 +13,9 @@ namespace platform {
 /// while it runs. The application then gets a `QEvent::LanguageChange`. The kit's translator keeps its place among the
 /// installed ones: a translator that a host installs after it goes first, and so can replace any of the texts.
 ///
+/// The texts of registered bundles (see `BundleRegistration`) follow in the same way, each bundle by what it has been
+/// translated into; a bundle without a file for the language has the texts that its forms and code hold.
+///
 ///     platform::setLanguage(QLocale(u"de_AT"_s));   // the German texts
 ORVANE_CORE_EXPORT void setLanguage(const QLocale &locale);
 

@@ -2,6 +2,15 @@
 
 ExportPlugin::~ExportPlugin() = default;
 
+void ExportPlugin::storeMissingChoices()
+{
+    for (const Choice &choice : choices()) {
+        if (!settings().objectForKey(choice.key).isValid()) {
+            settings().setValue(choice.defaultValue, choice.key);
+        }
+    }
+}
+
 QStringList ExportPlugin::additionalFileNames() const
 {
     return {};

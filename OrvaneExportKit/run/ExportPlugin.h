@@ -59,9 +59,13 @@ public:
     /// All choices, in the order in which a host shows them.
     virtual QList<Choice> choices() const = 0;
 
-    /// The settings in which the choices are kept, each as text under its key; a key that is missing has its default.
-    /// They belong to the plug-in.
+    /// The settings in which the choices are kept, each under its key, as text or as what a bound control stores; a key
+    /// that is missing has its default. They belong to the plug-in.
     virtual KZExportSettings &settings() = 0;
+
+    /// Stores the defaults of the choices that the settings lack, so that a panel shows what holds. A host calls it
+    /// when it has loaded the saved settings, before it binds the panel.
+    void storeMissingChoices();
 
     /// Sets one choice in the settings, from its text form, for all documents to come.
     /// Throws `platform::InvalidArgumentException`, saying which values are allowed, and changes nothing when the key

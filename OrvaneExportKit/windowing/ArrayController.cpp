@@ -8,6 +8,13 @@ ArrayController::ArrayController(const QStringList &keys, QObject *parent) : QAb
 {
 }
 
+void ArrayController::setKeys(const QStringList &keys)
+{
+    beginResetModel();
+    m_keys = keys;
+    endResetModel();
+}
+
 void ArrayController::setContent(const QList<QVariantMap> &content)
 {
     beginResetModel();
@@ -17,10 +24,37 @@ void ArrayController::setContent(const QList<QVariantMap> &content)
 
 void ArrayController::addObject(const QVariantMap &object)
 {
-    const int row = rowCount();
+    insertObject(rowCount(), object);
+}
+
+void ArrayController::insertObject(int row, const QVariantMap &object)
+{
     beginInsertRows({}, row, row);
-    m_content.append(object);
+    m_content.insert(row, object);
     endInsertRows();
+}
+
+void ArrayController::setObject(int row, const QVariantMap &object)
+{
+    m_content[row] = object;
+    Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
+}
+
+void ArrayController::removeObject(int row)
+{
+    beginRemoveRows({}, row, row);
+    m_content.removeAt(row);
+    endRemoveRows();
+}
+
+void ArrayController::moveObject(int row, int toRow)
+{
+    const bool isDownward = toRow > row; // a model counts the row itself while it stands before the place
+    if (!beginMoveRows({}, row, row, {}, isDownward ? toRow + 1 : toRow)) {
+        return; // it is there
+    }
+    m_content.move(row, toRow);
+    endMoveRows();
 }
 
 int ArrayController::rowCount(const QModelIndex &parent) const

@@ -23,6 +23,10 @@ public:
     /// `keys` are what the columns show.
     explicit ArrayController(const QStringList &keys, QObject *parent = nullptr);
 
+    /// What the columns show.
+    const QStringList &keys() const { return m_keys; }
+    void setKeys(const QStringList &keys);
+
     /// The dictionaries, also with the entries that no column shows.
     const QList<QVariantMap> &content() const { return m_content; }
 
@@ -31,6 +35,13 @@ public:
 
     /// Adds a dictionary at the end.
     void addObject(const QVariantMap &object);
+
+    // Each of these changes one dictionary of the content, at an index that is there; a dictionary is also inserted
+    // behind the last one. One that moves has the index `toRow` afterwards.
+    void insertObject(int row, const QVariantMap &object);
+    void setObject(int row, const QVariantMap &object);
+    void removeObject(int row);
+    void moveObject(int row, int toRow);
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;

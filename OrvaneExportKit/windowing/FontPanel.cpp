@@ -121,6 +121,12 @@ FontPanel::FontPanel()
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget * /*old*/, QWidget *now) { rememberFocus(now); });
 }
 
+/// A dialog that goes while it has the focus moves the focus once more, when it is a font panel no longer.
+FontPanel::~FontPanel()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 void FontPanel::layOut()
 {
     for (QWidget *field :

@@ -38,6 +38,8 @@ class ORVANE_KIT_EXPORT FontPanel : public QDialog
     Q_OBJECT
 
 public:
+    ~FontPanel() override;
+
     /// The one panel of the application, which makes it when it is first asked for. Do not keep the address: a panel
     /// that was opened over a modal window goes with that window, and the next call makes another.
     static FontPanel &sharedFontPanel();

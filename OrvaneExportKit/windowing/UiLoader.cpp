@@ -60,6 +60,16 @@ private:
     QStringList m_unknownClasses;
 };
 
+/// Tells the widgets that want to know it that they have been loaded.
+void awaken(const QWidget &form)
+{
+    for (QWidget *widget : form.findChildren<QWidget *>()) {
+        if (widget->metaObject()->indexOfMethod("awakeFromNib()") >= 0) {
+            QMetaObject::invokeMethod(widget, "awakeFromNib", Qt::DirectConnection);
+        }
+    }
+}
+
 platform::InvalidArgumentException interfaceFileError(const QString &file, const QString &problem)
 {
     return platform::InvalidArgumentException(u"UiLoader::load: %1: %2"_s.arg(file, problem).toStdString());
@@ -101,6 +111,7 @@ std::unique_ptr<QWidget> UiLoader::loadForm(const platform::Bundle &bundle, cons
     if (!form->metaObject()->inherits(&type)) {
         throw interfaceFileError(path, u"the form is no %1"_s.arg(QString::fromLatin1(type.className())));
     }
+    awaken(*form);
     return form;
 }
 

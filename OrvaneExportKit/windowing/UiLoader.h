@@ -56,7 +56,8 @@ public:
     UiLoader() = delete;
 
     /// The form in the bundle's resource "name.ui", a `Form`, which the caller owns. Texts are in the user's language:
-    /// their context in a `.ts` file is the class that the file gives its form.
+    /// their context in a `.ts` file is the class that the file gives its form. Widgets in the form that have a slot or
+    /// invokable function `awakeFromNib()` get a call of it at the end.
     ///
     /// Throws `platform::InvalidArgumentException`, naming the file, when it is not there or cannot be read, when it
     /// holds something else than a `Form`, and when a class in it is neither one of Qt's nor registered.

@@ -5,7 +5,6 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
-#include <QtCore/QJsonObject>
 #include <QtCore/QLibrary>
 #include <QtCore/QPluginLoader>
 
@@ -123,6 +122,7 @@ void PluginFolder::add(const QString &file)
         ExportPlugin *plugin = loadedPlugin(file);
         if (findPlugin(plugin->name()) == nullptr) {
             m_plugins.append(plugin);
+            m_metadata.insert(plugin, QPluginLoader(file).metaData().value("MetaData"_L1).toObject());
             return;
         }
         reason = Texts::tr("the folder holds another plug-in of the name %1").arg(quoted(plugin->name()));

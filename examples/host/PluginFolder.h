@@ -2,6 +2,8 @@
 
 #include <OrvaneExportKit/run/ExportPlugin.h>
 
+#include <QtCore/QHash>
+#include <QtCore/QJsonObject>
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
@@ -19,6 +21,9 @@ public:
     const QString &path() const { return m_path; }
     const QList<ExportPlugin *> &plugins() const { return m_plugins; }
 
+    /// What the metadata file of a plug-in says: "version", "description". Empty for one without such a file.
+    QJsonObject metadataOf(const ExportPlugin &plugin) const { return m_metadata.value(&plugin); }
+
     /// A sentence for each shared library that can't be used: which one, and why.
     const QStringList &problems() const { return m_problems; }
 
@@ -31,6 +36,7 @@ private:
 
     QString m_path;
     QList<ExportPlugin *> m_plugins;
+    QHash<const ExportPlugin *, QJsonObject> m_metadata;
     QStringList m_problems;
 };
 

@@ -7,10 +7,24 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace host {
 
+namespace {
+
+/// "plain-text: Plain Text (.txt), version 1.0", and what it is for, as far as its metadata says so.
+QString heading(const ExportPlugin &plugin, const QJsonObject &metadata)
+{
+    const QString version = printable(metadata.value("version"_L1).toString());
+    const QString description = printable(metadata.value("description"_L1).toString());
+    return u"%1: %2 (.%3)"_s.arg(plugin.name(), plugin.displayName(), plugin.pathExtension()) +
+           (version.isEmpty() ? QString() : u", version "_s + version) + u'\n' +
+           (description.isEmpty() ? QString() : u"  "_s + description + u'\n');
+}
+
+} // namespace
+
 void listPlugins(const PluginFolder &folder)
 {
     for (const ExportPlugin *plugin : folder.plugins()) {
-        printResult(u"%1: %2 (.%3)\n"_s.arg(plugin->name(), plugin->displayName(), plugin->pathExtension()));
+        printResult(heading(*plugin, folder.metadataOf(*plugin)));
         for (const ExportPlugin::Choice &choice : plugin->choices()) {
             printResult(u"  --set '%1=%2'\n      %3\n"_s.arg(choice.key, choice.defaultValue, choice.description));
         }

@@ -1,10 +1,14 @@
 #include <OrvaneExportKit/controls/KZFontNameTextField.h>
 
 #include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/platform/KeyPaths.h>
+#include <OrvaneExportKit/platform/ValueTransformer.h>
+#include <OrvaneExportKit/windowing/Binding.h>
 #include <OrvaneExportKit/windowing/Font.h>
 #include <OrvaneExportKit/windowing/FontPanel.h>
 #include <OrvaneExportKit/windowing/Frames.h>
 #include <OrvaneExportKit/windowing/ParagraphStyle.h>
+#include <tests/support/PanelController.h>
 #include <tests/support/Printers.h>
 
 #include <gtest/gtest.h>
@@ -181,7 +185,7 @@ TEST(KZFontNameTextField, TextThatReplacesNoneHasNoAttributesBeneath)
 
 TEST(KZFontNameTextField, ExposesItsBindingsInTheOrderOfItsFields)
 {
-    EXPECT_EQ(KZFontNameTextField::exposedBindings(),
+    EXPECT_EQ(windowing::exposedBindings(KZFontNameTextField::staticMetaObject),
               QStringList({u"selectedFontAttributes"_s, u"selectedFontName"_s, u"selectedFontSize"_s}));
 }
 
@@ -276,6 +280,50 @@ TEST_F(FontFieldChange, OfTheBackgroundToNoColourIsRefusedAndChangesNothing)
     field.setSelectedFontAttributes(QVariantMap{{u"NSUnderline"_s, 1}});
     EXPECT_THROW(field.changeDocumentBackgroundColor(&panel), platform::InvalidArgumentException);
     EXPECT_EQ(field.selectedFontAttributes().toMap(), (QVariantMap{{u"NSUnderline"_s, 1}}));
+}
+
+TEST_F(FontFieldChange, OfTheBackgroundGoesToTheModelBeforeTheField)
+{
+    support::PanelController controller;
+    const QVariantMap first{{u"NSUnderline"_s, 1}};
+    controller.settings()->setValue(first, u"style"_s);
+    new windowing::Binding(&field, u"selectedFontAttributes"_s, &controller, u"settings.style"_s);
+    ASSERT_EQ(field.selectedFontAttributes().toMap(), first);
+    // Once the value is stored, the binding shows it; until then the field has the old one.
+    QVariantMap seenInField;
+    QObject::connect(controller.settings(), &platform::KeyValueCoding::willChangeValueForKey, &field,
+                     [&] { seenInField = field.selectedFontAttributes().toMap(); });
+
+    panel.setSelectedAttributes({{u"NSBackgroundColor"_s, QColor(Qt::yellow)}});
+    field.changeDocumentBackgroundColor(&panel);
+    const QVariantMap expected{{u"NSUnderline"_s, 1}, {u"NSBackgroundColor"_s, QColor(Qt::yellow)}};
+    EXPECT_EQ(seenInField, first);
+    EXPECT_EQ(platform::valueForKeyPath(&controller, u"settings.style"_s).toMap(), expected);
+    EXPECT_EQ(field.selectedFontAttributes().toMap(), expected);
+}
+
+/// Stores nothing but empty maps.
+class ForgetfulTransformer final : public platform::ValueTransformer
+{
+public:
+    QMetaType transformedValueClass() const override { return QMetaType::fromType<QVariantMap>(); }
+    bool allowsReverseTransformation() const override { return true; }
+    QVariant transformedValue(const QVariant &value) const override { return value; }
+    QVariant reverseTransformedValue(const QVariant & /*value*/) const override { return QVariantMap(); }
+};
+
+TEST_F(FontFieldChange, OfAttributesGoesToTheModelPastATransformer)
+{
+    platform::setValueTransformer(std::make_shared<ForgetfulTransformer>(), u"ForgetfulTransformer"_s);
+    support::PanelController controller;
+    controller.settings()->setValue(QVariantMap{{u"kept"_s, 1}}, u"style"_s);
+    new windowing::Binding(&field, u"selectedFontAttributes"_s, &controller, u"settings.style"_s,
+                           {.valueTransformerName = u"ForgetfulTransformer"_s});
+    checkBox(u"&Underline"_s)->click();
+    field.changeAttributes(&panel);
+    EXPECT_EQ(platform::valueForKeyPath(&controller, u"settings.style"_s).toMap(),
+              (QVariantMap{{u"kept"_s, 1}, {u"NSUnderline"_s, 1}}));
+    platform::setValueTransformer(nullptr, u"ForgetfulTransformer"_s);
 }
 
 class FontFieldInWindow : public FontFieldChange

@@ -1,7 +1,9 @@
 #include <OrvaneExportKit/controls/KZPageView.h>
 
 #include <OrvaneExportKit/platform/Translations.h>
+#include <OrvaneExportKit/windowing/Binding.h>
 #include <OrvaneExportKit/windowing/PrintInfo.h>
+#include <tests/support/PanelController.h>
 #include <tests/support/Rendering.h>
 
 #include <gtest/gtest.h>
@@ -95,7 +97,21 @@ TEST(KZPageView, NeverClaimsToFillItsBackground)
 TEST(KZPageView, ExposesItsBindingsInTheOrderOfItsFields)
 {
     const QStringList names{u"paperSize"_s, u"topMargin"_s, u"leftMargin"_s, u"rightMargin"_s, u"bottomMargin"_s};
-    EXPECT_EQ(KZPageView::exposedBindings(), names);
+    EXPECT_EQ(windowing::exposedBindings(KZPageView::staticMetaObject), names);
+}
+
+TEST(KZPageView, ShowsThePageOfBoundSettings)
+{
+    support::PanelController controller;
+    controller.settings()->setValue(u"{300.5, 400}"_s, u"size"_s);
+    controller.settings()->setValue(36.5F, u"top"_s);
+    KZPageView view;
+    new windowing::Binding(&view, u"paperSize"_s, &controller, u"settings.size"_s);
+    new windowing::Binding(&view, u"topMargin"_s, &controller, u"settings.top"_s);
+    EXPECT_EQ(view.paperSize(), QSizeF(300.5, 400.0));
+    EXPECT_EQ(view.topMargin(), 36.5F);
+    controller.settings()->setValue(10, u"top"_s);
+    EXPECT_EQ(view.topMargin(), 10.0F);
 }
 
 TEST(KZPageView, TakesItsValuesAsDesignableProperties)

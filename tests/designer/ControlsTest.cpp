@@ -49,10 +49,12 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(
     Offered, DesignerControl,
-    testing::Values(OfferedControl{"KZFontNameTextField", {u"selectedFontName"_s, u"selectedFontSize"_s}},
+    testing::Values(OfferedControl{"KZContentView", {}, true},
+                    OfferedControl{"KZFontNameTextField", {u"selectedFontName"_s, u"selectedFontSize"_s}},
                     OfferedControl{
                         "KZPageView",
-                        {u"paperSize"_s, u"topMargin"_s, u"leftMargin"_s, u"rightMargin"_s, u"bottomMargin"_s}}),
+                        {u"paperSize"_s, u"topMargin"_s, u"leftMargin"_s, u"rightMargin"_s, u"bottomMargin"_s}},
+                    OfferedControl{"windowing::TokenField", {}}),
     [](const auto &info) { return QString::fromLatin1(info.param.className).section(u':', -1).toStdString(); });
 
 TEST_P(DesignerControl, IsMadeByThePlugin)

@@ -64,6 +64,37 @@ TEST(ArrayController, ReplacesItsContent)
     EXPECT_EQ(styles.data(styles.index(1, 0)), u"Verse"_s);
 }
 
+TEST(ArrayController, ChangesSingleDictionaries)
+{
+    ArrayController styles({u"name"_s});
+    const QAbstractItemModelTester tester(&styles, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const QVariantMap quote = style(u"Quote"_s, u">"_s);
+    const QVariantMap aside = style(u"Aside"_s, u"|"_s);
+    const QVariantMap verse = style(u"Verse"_s, u"/"_s);
+    styles.insertObject(0, verse);
+    styles.insertObject(0, quote);
+    styles.insertObject(1, aside);
+    EXPECT_EQ(styles.content(), (QList<QVariantMap>{quote, aside, verse}));
+    styles.moveObject(0, 2);
+    EXPECT_EQ(styles.content(), (QList<QVariantMap>{aside, verse, quote}));
+    styles.moveObject(2, 1);
+    EXPECT_EQ(styles.content(), (QList<QVariantMap>{aside, quote, verse}));
+    styles.moveObject(1, 1);
+    EXPECT_EQ(styles.content(), (QList<QVariantMap>{aside, quote, verse}));
+    styles.removeObject(0);
+    styles.setObject(1, aside);
+    EXPECT_EQ(styles.content(), (QList<QVariantMap>{quote, aside}));
+}
+
+TEST(ArrayController, ShowsOtherKeysWhenTheyAreSet)
+{
+    ArrayController styles({u"name"_s});
+    styles.addObject(style(u"Quote"_s, u">"_s));
+    styles.setKeys({u"tag"_s, u"name"_s});
+    EXPECT_EQ(styles.columnCount(), 2);
+    EXPECT_EQ(styles.data(styles.index(0, 0)), u">"_s);
+}
+
 TEST(ArrayController, IsAProperModel)
 {
     ArrayController styles({u"name"_s, u"tag"_s});

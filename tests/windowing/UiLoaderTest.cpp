@@ -1,4 +1,10 @@
 #include <OrvaneExportKit/windowing/UiLoader.h>
+
+#include <OrvaneExportKit/controls/FontTarget.h>
+#include <OrvaneExportKit/controls/KZFontNameTextField.h>
+#include <OrvaneExportKit/controls/KZPageView.h>
+#include <OrvaneExportKit/controls/LengthField.h>
+#include <OrvaneExportKit/windowing/DictionaryTable.h>
 #include <tests/support/Files.h>
 #include <tests/support/Printers.h>
 
@@ -21,11 +27,16 @@ class TestDial : public QWidget
 public:
     explicit TestDial(QWidget *parent = nullptr) : QWidget(parent) {}
 
+    /// Keeps the hours that the form has set by then.
+    Q_INVOKABLE void awakeFromNib() { m_hoursWhenAwake = m_hours; }
+    int hoursWhenAwake() const { return m_hoursWhenAwake; }
+
     int hours() const { return m_hours; }
     void setHours(int hours) { m_hours = hours; }
 
 private:
     int m_hours = 12;
+    int m_hoursWhenAwake = 0;
 };
 
 namespace {
@@ -106,6 +117,27 @@ TEST_F(UiLoaderTest, CreatesRegisteredClassesWithTheirProperties)
     const auto registration = WidgetClassRegistration::of<TestDial>();
     const auto panel = load();
     EXPECT_EQ(UiLoader::outlet<TestDial>(*panel, u"dial"_s)->hours(), 24);
+}
+
+TEST_F(UiLoaderTest, WakesWidgetsWhenTheFormIsComplete)
+{
+    writePanel(dial);
+    const auto registration = WidgetClassRegistration::of<TestDial>();
+    const auto panel = load();
+    EXPECT_EQ(UiLoader::outlet<TestDial>(*panel, u"dial"_s)->hoursWhenAwake(), 24);
+}
+
+TEST_F(UiLoaderTest, KnowsTheControlsOfTheKit)
+{
+    writePanel(R"(<widget class="KZFontNameTextField" name="font"/><widget class="KZPageView" name="page"/>
+        <widget class="windowing::LengthField" name="length"/><widget class="windowing::DictionaryTable" name="table"/>)");
+    const auto panel = load();
+    const auto *font = UiLoader::outlet<KZFontNameTextField>(*panel, u"font"_s);
+    EXPECT_TRUE(font->fieldAttributes().has_value());
+    EXPECT_NE(qobject_cast<windowing::FontTarget *>(font->target()), nullptr);
+    EXPECT_NO_THROW(UiLoader::outlet<KZPageView>(*panel, u"page"_s));
+    EXPECT_NO_THROW(UiLoader::outlet<windowing::LengthField>(*panel, u"length"_s));
+    EXPECT_NO_THROW(UiLoader::outlet<windowing::DictionaryTable>(*panel, u"table"_s));
 }
 
 TEST_F(UiLoaderTest, NamesFileAndClassThatItDoesNotKnow)

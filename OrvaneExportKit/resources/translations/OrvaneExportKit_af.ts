@@ -120,6 +120,26 @@
     </message>
 </context>
 <context>
+    <name>windowing::DictionaryTable</name>
+    <message>
+        <source>&amp;Add</source>
+        <extracomment>A button below a table: adds a row.</extracomment>
+        <translation>&amp;Voeg by</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>V&amp;erwyder</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Skuif &amp;op</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>Skuif &amp;af</translation>
+    </message>
+</context>
+<context>
     <name>windowing::FontPanel</name>
     <message>
         <source>Fonts</source>

@@ -120,6 +120,26 @@
     </message>
 </context>
 <context>
+    <name>windowing::DictionaryTable</name>
+    <message>
+        <source>&amp;Add</source>
+        <extracomment>A button below a table: adds a row.</extracomment>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
+</context>
+<context>
     <name>windowing::FontPanel</name>
     <message>
         <source>Fonts</source>

@@ -120,6 +120,26 @@
     </message>
 </context>
 <context>
+    <name>windowing::DictionaryTable</name>
+    <message>
+        <source>&amp;Add</source>
+        <extracomment>A button below a table: adds a row.</extracomment>
+        <translation>&amp;Add</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Remove</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Move &amp;Up</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>Move Do&amp;wn</translation>
+    </message>
+</context>
+<context>
     <name>windowing::FontPanel</name>
     <message>
         <source>Fonts</source>

@@ -120,6 +120,26 @@
     </message>
 </context>
 <context>
+    <name>windowing::DictionaryTable</name>
+    <message>
+        <source>&amp;Add</source>
+        <extracomment>A button below a table: adds a row.</extracomment>
+        <translation>A&amp;jouter</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Retirer</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>&amp;Monter</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>&amp;Descendre</translation>
+    </message>
+</context>
+<context>
     <name>windowing::FontPanel</name>
     <message>
         <source>Fonts</source>

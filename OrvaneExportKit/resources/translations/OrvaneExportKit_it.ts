@@ -120,6 +120,26 @@
     </message>
 </context>
 <context>
+    <name>windowing::DictionaryTable</name>
+    <message>
+        <source>&amp;Add</source>
+        <extracomment>A button below a table: adds a row.</extracomment>
+        <translation>&amp;Aggiungi</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Rimuovi</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Sposta &amp;su</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>Sposta &amp;giù</translation>
+    </message>
+</context>
+<context>
     <name>windowing::FontPanel</name>
     <message>
         <source>Fonts</source>

@@ -62,9 +62,6 @@ QString marker(const QString &style)
 /// The family that a font name begins with, and what its style says.
 QString fontRules(const QString &fontName)
 {
-    if (fontName.isEmpty()) {
-        return u"font-family: Georgia, serif;"_s;
-    }
     const QString style = fontName.section(u'-', 1);
     QString rules = u"font-family: \"%1\", serif;"_s.arg(fontName.section(u'-', 0, 0));
     if (style.contains(u"Bold"_s, Qt::CaseInsensitive)) {

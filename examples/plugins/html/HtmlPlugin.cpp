@@ -8,6 +8,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+const platform::BundleRegistration bundleRegistration(u"org.orvane.html"_s, u":/org.orvane.html"_s);
+
 const QString indexName = u"index.html"_s;
 
 const styled::Styles &defaultStyles()
@@ -49,7 +51,7 @@ QString HtmlPlugin::name() const
 
 QString HtmlPlugin::displayName() const
 {
-    return u"Web Pages (HTML)"_s;
+    return bundle().localizedStringForKey(u"Web Pages (HTML)"_s);
 }
 
 QString HtmlPlugin::pathExtension() const

@@ -12,7 +12,7 @@ class HtmlPlugin : public QObject, public ExportPlugin
 {
     Q_OBJECT
     Q_INTERFACES(ExportPlugin)
-    Q_PLUGIN_METADATA(IID ExportPlugin_iid)
+    Q_PLUGIN_METADATA(IID ExportPlugin_iid FILE "html.json")
 
 public:
     HtmlPlugin();

@@ -8,6 +8,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+const platform::BundleRegistration bundleRegistration(u"org.orvane.latex"_s, u":/org.orvane.latex"_s);
+
 const styled::Styles &defaultStyles()
 {
     static const styled::Styles styles{

@@ -12,7 +12,7 @@ class LatexPlugin : public QObject, public ExportPlugin
 {
     Q_OBJECT
     Q_INTERFACES(ExportPlugin)
-    Q_PLUGIN_METADATA(IID ExportPlugin_iid)
+    Q_PLUGIN_METADATA(IID ExportPlugin_iid FILE "latex.json")
 
 public:
     LatexPlugin();

@@ -21,6 +21,8 @@ namespace {
 using Options = PlainTextPlugin::Options;
 using TagPair = PlainTextPlugin::TagPair;
 
+const platform::BundleRegistration bundleRegistration(u"org.orvane.plain-text"_s, u":/org.orvane.plain-text"_s);
+
 constexpr quint32 widestTab = 64;
 
 std::optional<quint32> numberUpTo(quint32 maximum, const QString &value)
@@ -116,24 +118,22 @@ bool setTabWidth(Options &options, const QString &value)
     return true;
 }
 
-/// Sets a flag to whether the value is the word for true; it takes no other words than these two.
-bool setFlag(bool &flag, const QString &value, QStringView wordForTrue, QStringView wordForFalse)
+/// Sets a flag to whether the value is one of the words for true; it takes no other words than the given ones.
+bool setFlag(bool &flag, const QString &value, const QStringList &wordsForTrue, const QStringList &wordsForFalse)
 {
-    if (value != wordForTrue && value != wordForFalse) {
-        return false;
-    }
-    flag = value == wordForTrue;
-    return true;
+    flag = wordsForTrue.contains(value);
+    return flag || wordsForFalse.contains(value);
 }
 
 bool setEmptyLines(Options &options, const QString &value)
 {
-    return setFlag(options.keepsEmptyLines, value, u"keep", u"drop");
+    return setFlag(options.keepsEmptyLines, value, {u"keep"_s}, {u"drop"_s});
 }
 
+/// Stored booleans read "true" and "false".
 bool setTypography(Options &options, const QString &value)
 {
-    return setFlag(options.correctsTypography, value, u"yes", u"no");
+    return setFlag(options.correctsTypography, value, {u"yes"_s, u"true"_s}, {u"no"_s, u"false"_s});
 }
 
 struct ChoiceRule {
@@ -254,7 +254,7 @@ QString PlainTextPlugin::name() const
 
 QString PlainTextPlugin::displayName() const
 {
-    return u"Plain Text"_s;
+    return bundle().localizedStringForKey(u"Plain Text"_s);
 }
 
 QString PlainTextPlugin::pathExtension() const
@@ -317,4 +317,9 @@ QByteArray PlainTextPlugin::exportedData(const ExportDocument & /*document*/,
         wrapLines(plain, options.lineLength);
     }
     return plain.toUtf8();
+}
+
+platform::Bundle PlainTextPlugin::bundle() const
+{
+    return platform::Bundle::bundleWithIdentifier(u"org.orvane.plain-text"_s);
 }

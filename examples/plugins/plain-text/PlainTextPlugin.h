@@ -14,7 +14,7 @@ class PlainTextPlugin : public QObject, public ExportPlugin
 {
     Q_OBJECT
     Q_INTERFACES(ExportPlugin)
-    Q_PLUGIN_METADATA(IID ExportPlugin_iid)
+    Q_PLUGIN_METADATA(IID ExportPlugin_iid FILE "plain-text.json")
 
 public:
     /// The two strings that enclose an inline span.
@@ -42,6 +42,7 @@ public:
     KZExportSettings &settings() override;
     void setChoice(const QString &key, const QString &value) override;
     QByteArray exportedData(const ExportDocument &document, const platform::AttributedString &text) const override;
+    platform::Bundle bundle() const override;
 
 private:
     KZExportSettings m_settings{QStringLiteral("org.orvane.plain-text")};

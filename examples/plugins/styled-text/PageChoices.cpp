@@ -38,15 +38,21 @@ bool isQuotationLanguage(const QString &value)
     return value == u"none" || platform::quotationMarks(platform::Bundle::kitBundle(), value).begin;
 }
 
+/// Stored booleans read "true" and "false".
+bool isYes(const QString &value)
+{
+    return value == u"yes" || value == u"true";
+}
+
 bool isYesOrNo(const QString &value)
 {
-    return value == u"yes" || value == u"no";
+    return isYes(value) || value == u"no" || value == u"false";
 }
 
 /// Whether the value can stand in a style sheet or a source text as a name.
 bool isFontName(const QString &value)
 {
-    return std::all_of(value.begin(), value.end(), [](QChar character) {
+    return !value.isEmpty() && std::all_of(value.begin(), value.end(), [](QChar character) {
         return character.isLetterOrNumber() || character == u' ' || character == u'-' || character == u'_';
     });
 }
@@ -79,8 +85,7 @@ const QList<ChoiceRule> &pageChoices()
         {u"quotation-language"_s, u"en_US"_s, u"makes straight quotation marks typographic"_s,
          u"a language such as en_US, de or fr_FR, or none"_s, isQuotationLanguage},
         {u"typography"_s, u"yes"_s, u"corrects ellipses, apostrophes and dashes"_s, u"yes or no"_s, isYesOrNo},
-        {u"font-name"_s, u""_s, u"the font of the text"_s, u"a name such as Georgia, or nothing for the usual one"_s,
-         isFontName},
+        {u"font-name"_s, u"Georgia"_s, u"the font of the text"_s, u"a name such as Georgia-Bold"_s, isFontName},
         {u"font-size"_s, u"11"_s, u"the size of the text"_s, u"points from 1 to 500"_s, isFontSize},
         {u"paper-size"_s, u"{595.28, 841.89}"_s, u"the size of the paper"_s, u"{width, height} in points"_s,
          isPaperSize},
@@ -123,7 +128,7 @@ void correctTypography(platform::AttributedString &text, const KZExportSettings 
     if (quotations != u"none") {
         convertQuotationsToLanguage(text, quotations);
     }
-    if (choiceIn(settings, pageChoices(), u"typography"_s) == u"yes") {
+    if (isYes(choiceIn(settings, pageChoices(), u"typography"_s))) {
         convertEllipses(text);
         correctApostrophes(text);
         correctDashes(text);

@@ -14,7 +14,7 @@ namespace styled {
 
 /// How a page looks. Lengths are in points.
 struct Page {
-    QString fontName; ///< "Georgia-Bold"; empty for the format's own
+    QString fontName; ///< "Georgia-Bold"
     double fontSize;
     QSizeF paper;
     QMarginsF margins;

@@ -1,0 +1,23 @@
+#include <OrvaneExportKit/controls/LengthField.h>
+
+#include <tests/support/Printers.h>
+#include <tests/support/TemporaryDefaults.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using LengthField = support::TemporaryDefaults;
+
+TEST_F(LengthField, ShowsTheUsersUnitBehindTheNumber)
+{
+    windowing::LengthField field;
+    field.setLocale(QLocale::c());
+    field.setValue(2.54);
+    EXPECT_EQ(field.text(), u"2.54 cm"_s);
+    ASSERT_TRUE(defaults().setPersistentDomain({{u"AppleMeasurementUnits"_s, u"Inches"_s}},
+                                               platform::UserDefaults::globalDomain()));
+    EXPECT_EQ(windowing::LengthField().suffix(), u" in"_s);
+}
+
+} // namespace
