@@ -48,7 +48,8 @@ std::optional<WindowRequest> runCommand(int argc, char *argv[])
 #ifndef ORVANE_HOST_WITH_WINDOW
 int showWindow(int /*argc*/, char * /*argv*/[], const WindowRequest & /*request*/)
 {
-    throw HostError(ExitCode::Display, u"this program was built without windows; use the command export"_s);
+    throw HostError(ExitCode::Display,
+                    u"no window can be shown: the program was built without them; use the command export"_s);
 }
 #endif
 

@@ -171,6 +171,20 @@ TEST_F(CommandLine, WhatIsMissingOrWrongIsNamed)
     EXPECT_EQ(filesIn(destination()), QStringList());
 }
 
+TEST_F(CommandLine, AWindowWithoutADisplayIsAnErrorAndNoCrash)
+{
+    for (const QString &platform : {u"xcb"_s, u"there-is-no-such-platform"_s}) {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"QT_QPA_PLATFORM"_s, platform);
+        environment.remove(u"DISPLAY"_s);
+        environment.remove(u"WAYLAND_DISPLAY"_s);
+        process.setProcessEnvironment(environment);
+        process.start(hostProgram, {u"open"_s, manuscript()});
+        EXPECT_TRUE(failedWith(6, {u"no window can be shown"_s, u"export"_s}, finished(process)));
+    }
+}
+
 TEST_F(CommandLine, UnknownChoiceNamesThoseThatThereAre)
 {
     EXPECT_TRUE(failedWith(1,

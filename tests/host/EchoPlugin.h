@@ -5,7 +5,7 @@
 namespace host_tests {
 
 /// A format without a panel: the text of a document behind the setting "prefix".
-class EchoPlugin final : public ExportPlugin
+class EchoPlugin : public ExportPlugin
 {
 public:
     EchoPlugin() { m_settings.setObject(QStringLiteral(">"), QStringLiteral("prefix")); }

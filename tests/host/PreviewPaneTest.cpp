@@ -20,8 +20,10 @@ class PreviewPaneTest : public testing::Test
 protected:
     bool shows(const QString &text)
     {
-        return QTest::qWaitFor([this, &text] { return m_pane.text().toPlainText() == text; });
+        return QTest::qWaitFor([this, &text] { return shownText() == text; });
     }
+
+    QString shownText() const { return m_pane.findChild<QPlainTextEdit *>(u"preview"_s)->toPlainText(); }
 
     QString note() const { return m_pane.findChild<windowing::MessageLabel *>()->text(); }
 
@@ -64,7 +66,29 @@ TEST_F(PreviewPaneTest, EndsAfterManyCharactersAndSaysSo)
     m_document.setText(platform::AttributedString(QString(300'000, u'x')));
     m_pane.showDocument(&m_document);
     EXPECT_TRUE(QTest::qWaitFor([this] { return note().contains("200,000"_L1); }));
-    EXPECT_EQ(m_pane.text().toPlainText().size(), 200'000);
+    EXPECT_EQ(shownText().size(), 200'000);
+}
+
+TEST_F(PreviewPaneTest, ShowsAWebPageAsItsReaderSeesItOrItsSource)
+{
+    class HtmlEcho final : public EchoPlugin
+    {
+    public:
+        QString pathExtension() const override { return u"html"_s; }
+    };
+    HtmlEcho plugin;
+    host::PreviewPane pane({&plugin});
+    pane.show();
+    m_document.setText(platform::AttributedString(u"<p>a <b>page</b>"_s));
+    pane.showDocument(&m_document);
+    const auto *page = pane.findChild<QTextBrowser *>(u"previewPage"_s);
+    const auto *source = pane.findChild<QPlainTextEdit *>(u"preview"_s);
+    EXPECT_TRUE(QTest::qWaitFor([page] { return page->toPlainText().contains("a page"_L1); }));
+    EXPECT_TRUE(page->isVisible());
+    EXPECT_FALSE(source->isVisible());
+    pane.findChild<QCheckBox *>(u"previewSource"_s)->setChecked(true);
+    EXPECT_FALSE(page->isVisible());
+    EXPECT_EQ(source->toPlainText(), u"><p>a <b>page</b>"_s);
 }
 
 TEST_F(PreviewPaneTest, SaysThatThereIsNoPlugin)

@@ -16,6 +16,7 @@ from display import PATIENCE, Display, wait_until
 
 HOST = os.environ["ORVANE_HOST"]
 PLUGINS = os.environ["ORVANE_TEST_PLUGINS"]
+HOST_PLUGINS = os.environ["ORVANE_HOST_PLUGINS"]
 MANUSCRIPTS = Path(os.environ["ORVANE_MANUSCRIPTS"])
 SETTINGS = "org.orvane.test.reporting.plist"
 
@@ -23,10 +24,10 @@ SETTINGS = "org.orvane.test.reporting.plist"
 class Host:
     """The program, running in a window."""
 
-    def __init__(self, display, home, *arguments):
+    def __init__(self, display, home, plugins, *arguments):
         self.display = display
         self.environment = {**display.environment, "ORVANE_DEFAULTS_FOLDER": str(home / "defaults"),
-                            "ORVANE_PLUGIN_PATH": PLUGINS}
+                            "ORVANE_PLUGIN_PATH": str(plugins)}
         self.process = subprocess.Popen([HOST, *map(str, arguments)], env=self.environment, stdin=subprocess.PIPE,
                                         stdout=subprocess.PIPE, text=True)
 
@@ -110,13 +111,13 @@ class HostWindow(unittest.TestCase):
         self.manuscript = self.home / "manuscript"
         shutil.copytree(MANUSCRIPTS / "the-lamplighters-ledger", self.manuscript)
 
-    def start(self, *arguments):
-        host = Host(self.display, self.home, *arguments)
+    def start(self, *arguments, plugins=PLUGINS):
+        host = Host(self.display, self.home, plugins, *arguments)
         self.addCleanup(host.stop)
         return host
 
-    def open(self):
-        host = self.start("open", self.manuscript)
+    def open(self, **options):
+        host = self.start("open", self.manuscript, **options)
         host.window("manuscriptWindow")
         return host
 
@@ -129,14 +130,15 @@ class HostWindow(unittest.TestCase):
     def files(self):
         return {path.name: path.read_bytes() for path in self.destination.iterdir()}
 
-    def files_of_the_command_line(self):
+    def files_of_the_command_line(self, plugin="reporting", plugins=PLUGINS):
         """What the command exports with the settings that are saved."""
-        folder = self.home / "CommandLine"
+        folder = self.home / f"CommandLine-{plugin}"
         folder.mkdir()
         subprocess.run(
-            [HOST, "export", self.manuscript, "--plugin", "reporting", "--to", folder], check=True,
+            [HOST, "export", self.manuscript, "--plugin", plugin, "--to", folder], check=True,
             capture_output=True, timeout=PATIENCE,
-            env={**os.environ, "ORVANE_DEFAULTS_FOLDER": str(self.home / "defaults"), "ORVANE_PLUGIN_PATH": PLUGINS})
+            env={**os.environ, "ORVANE_DEFAULTS_FOLDER": str(self.home / "defaults"),
+                 "ORVANE_PLUGIN_PATH": str(plugins)})
         return {path.name: path.read_bytes() for path in folder.iterdir()}
 
     def settings(self):
@@ -206,6 +208,26 @@ class HostWindow(unittest.TestCase):
         host.click("overwritePanel", "replaceButton")
         host.wait_for_text("manuscriptWindow", "resultSentence", "12 files exported")
         self.assertEqual(self.files(), first)
+
+    def test_exports_the_same_files_as_the_command_in_every_format(self):
+        plugins = self.home / "plugins"
+        plugins.mkdir()
+        for path in [*Path(PLUGINS).iterdir(), *Path(HOST_PLUGINS).iterdir()]:
+            (plugins / path.name).symlink_to(path)
+        host = self.open(plugins=plugins)
+        for plugin, first_letters in (("html", "Web"), ("latex", "LaTeX"), ("plain-text", "Plain")):
+            with self.subTest(plugin):
+                for path in self.destination.iterdir():
+                    path.unlink()
+                self.choose_export(host)
+                host.keys("alt+f")
+                host.type(first_letters)
+                wait_until(lambda: host.widgets("exportDialog")["exportFormat"]["text"].startswith(first_letters),
+                           first_letters)
+                host.start_export()
+                host.wait_for_text("manuscriptWindow", "resultSentence", "exported to")
+                self.assertEqual(self.files(), self.files_of_the_command_line(plugin, plugins))
+                host.click("manuscriptWindow", "Dismiss")
 
     def test_cancelling_the_dialog_leaves_the_settings_as_they_were(self):
         host = self.open()

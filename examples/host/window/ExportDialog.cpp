@@ -54,8 +54,8 @@ ExportDialog::ExportDialog(const Manuscript &manuscript, const QList<ExportPlugi
     setObjectName(u"exportDialog"_s);
     setWindowTitle(tr("Export “%1”").arg(m_manuscript.title));
     setWindowModality(Qt::WindowModal);
-    for (const ExportPlugin *plugin : m_plugins) {
-        m_settingsBefore.append(const_cast<ExportPlugin *>(plugin)->settings().defaultDictionary());
+    for (ExportPlugin *plugin : m_plugins) {
+        m_settingsBefore.append(plugin->settings().defaultDictionary());
         m_format->addItem(plugin->displayName(), plugin->name());
     }
     m_format->setCurrentIndex(qMax(0, m_format->findData(pluginName)));
@@ -74,7 +74,7 @@ ExportDialog::ExportDialog(const Manuscript &manuscript, const QList<ExportPlugi
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(sides, 1);
     layout->addWidget(buttons);
-    resize(920, 560);
+    resize(1000, 600);
     m_format->setFocus();
 
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

@@ -103,8 +103,8 @@ void ManuscriptWindow::closeEvent(QCloseEvent *event)
     event->accept();
 }
 
-QAction *ManuscriptWindow::addAction(QMenu *menu, const QString &text, const QKeySequence &shortcut,
-                                     void (ManuscriptWindow::*slot)())
+QAction *ManuscriptWindow::addManuscriptAction(QMenu *menu, const QString &text, const QKeySequence &shortcut,
+                                               void (ManuscriptWindow::*slot)())
 {
     QAction *action = menu->addAction(text, shortcut, this, slot);
     action->setEnabled(false);
@@ -123,7 +123,7 @@ void ManuscriptWindow::addFileMenu()
                                    QKeySequence::Save, this, &ManuscriptWindow::save);
     menu->addSeparator();
     QAction *exporting =
-        addAction(menu, tr("&Export…"), QKeySequence(Qt::CTRL | Qt::Key_E), &ManuscriptWindow::chooseExport);
+        addManuscriptAction(menu, tr("&Export…"), QKeySequence(Qt::CTRL | Qt::Key_E), &ManuscriptWindow::chooseExport);
     exporting->setIcon(iconNamed(u"document-export"_s, *this, QStyle::SP_ArrowRight));
     menu->addSeparator();
     menu->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
@@ -139,14 +139,15 @@ void ManuscriptWindow::addFileMenu()
 void ManuscriptWindow::addGoMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&Go"));
-    addAction(menu, tr("&Next Document"), QKeySequence(Qt::CTRL | Qt::Key_PageDown),
-              &ManuscriptWindow::moveToNextDocument);
-    addAction(menu, tr("&Previous Document"), QKeySequence(Qt::CTRL | Qt::Key_PageUp),
-              &ManuscriptWindow::moveToPreviousDocument);
+    addManuscriptAction(menu, tr("&Next Document"), QKeySequence(Qt::CTRL | Qt::Key_PageDown),
+                        &ManuscriptWindow::moveToNextDocument);
+    addManuscriptAction(menu, tr("&Previous Document"), QKeySequence(Qt::CTRL | Qt::Key_PageUp),
+                        &ManuscriptWindow::moveToPreviousDocument);
     menu->addSeparator();
-    addAction(menu, tr("List of &Documents"), QKeySequence(Qt::CTRL | Qt::Key_1), &ManuscriptWindow::focusDocuments);
-    addAction(menu, tr("&Text"), QKeySequence(Qt::CTRL | Qt::Key_2), &ManuscriptWindow::focusText);
-    addAction(menu, tr("Pre&view"), QKeySequence(Qt::CTRL | Qt::Key_3), &ManuscriptWindow::focusPreview);
+    addManuscriptAction(menu, tr("List of &Documents"), QKeySequence(Qt::CTRL | Qt::Key_1),
+                        &ManuscriptWindow::focusDocuments);
+    addManuscriptAction(menu, tr("&Text"), QKeySequence(Qt::CTRL | Qt::Key_2), &ManuscriptWindow::focusText);
+    addManuscriptAction(menu, tr("Pre&view"), QKeySequence(Qt::CTRL | Qt::Key_3), &ManuscriptWindow::focusPreview);
 }
 
 void ManuscriptWindow::addViewMenu()
@@ -173,16 +174,16 @@ void ManuscriptWindow::addPanes()
     QHeaderView *header = m_documents->header();
     header->setStretchLastSection(false);
     header->setSectionResizeMode(ManuscriptModel::NameColumn, QHeaderView::Stretch);
-    for (const int column :
-         {ManuscriptModel::StatusColumn, ManuscriptModel::LabelColumn, ManuscriptModel::WordsColumn}) {
-        header->resizeSection(column, 9 * m_documents->fontMetrics().averageCharWidth() + 16);
-    }
+    const int width = m_documents->fontMetrics().averageCharWidth();
+    header->resizeSection(ManuscriptModel::StatusColumn, 14 * width);
+    header->resizeSection(ManuscriptModel::LabelColumn, 11 * width);
+    header->resizeSection(ManuscriptModel::WordsColumn, 10 * width);
 
     m_panes->addWidget(m_documents);
     m_panes->addWidget(m_editor);
     m_panes->addWidget(m_preview);
     m_panes->setChildrenCollapsible(false);
-    m_panes->setSizes({360, 400, 340});
+    m_panes->setSizes({380, 390, 330});
     m_pages->addWidget(m_panes);
 
     auto *content = new QWidget;
@@ -351,7 +352,7 @@ void ManuscriptWindow::focusText()
 
 void ManuscriptWindow::focusPreview()
 {
-    m_preview->text().setFocus(Qt::ShortcutFocusReason);
+    m_preview->focusFile();
 }
 
 } // namespace host

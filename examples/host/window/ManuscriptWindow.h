@@ -39,8 +39,8 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    QAction *addAction(QMenu *menu, const QString &text, const QKeySequence &shortcut,
-                       void (ManuscriptWindow::*slot)());
+    QAction *addManuscriptAction(QMenu *menu, const QString &text, const QKeySequence &shortcut,
+                                 void (ManuscriptWindow::*slot)());
     void addFileMenu();
     void addGoMenu();
     void addViewMenu();

@@ -22,6 +22,11 @@ constexpr int millisecondsOfPause = 150;
 /// A text of this length, in UTF-16 code units, is laid out before anybody has to wait for it.
 constexpr qsizetype longestPreview = 200'000;
 
+bool isWebFormat(const ExportPlugin *plugin)
+{
+    return plugin != nullptr && plugin->pathExtension() == u"html";
+}
+
 } // namespace
 
 PreviewPane::PreviewPane(const QList<ExportPlugin *> &plugins, QWidget *parent)
@@ -29,6 +34,8 @@ PreviewPane::PreviewPane(const QList<ExportPlugin *> &plugins, QWidget *parent)
       m_plugins(plugins),
       m_formats(new QComboBox),
       m_note(new windowing::MessageLabel),
+      m_source(new QCheckBox(tr("Sou&rce"))),
+      m_page(new QTextBrowser),
       m_text(new QPlainTextEdit)
 {
     auto *label = new QLabel(tr("Preview &as:"));
@@ -38,6 +45,10 @@ PreviewPane::PreviewPane(const QList<ExportPlugin *> &plugins, QWidget *parent)
         m_formats->addItem(plugin->displayName(), plugin->name());
     }
     m_note->setWordWrap(true);
+    m_source->setObjectName(u"previewSource"_s);
+    m_page->setObjectName(u"previewPage"_s);
+    m_page->setAccessibleName(tr("Preview of the page"));
+    m_page->setOpenLinks(false);
     m_text->setObjectName(u"preview"_s);
     m_text->setAccessibleName(tr("Preview of the file"));
     m_text->setReadOnly(true);
@@ -49,13 +60,16 @@ PreviewPane::PreviewPane(const QList<ExportPlugin *> &plugins, QWidget *parent)
     auto *formatLayout = new QHBoxLayout;
     formatLayout->addWidget(label);
     formatLayout->addWidget(m_formats, 1);
+    formatLayout->addWidget(m_source);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(formatLayout);
     layout->addWidget(m_note);
+    layout->addWidget(m_page);
     layout->addWidget(m_text);
 
     connect(&m_pause, &QTimer::timeout, this, &PreviewPane::refresh);
+    connect(m_source, &QCheckBox::toggled, this, &PreviewPane::refresh);
     connect(m_formats, &QComboBox::currentIndexChanged, this, [this] {
         m_pause.start();
         Q_EMIT pluginChanged();
@@ -63,7 +77,7 @@ PreviewPane::PreviewPane(const QList<ExportPlugin *> &plugins, QWidget *parent)
     for (ExportPlugin *plugin : m_plugins) {
         connect(&plugin->settings(), &KZExportSettings::didChangeValueForKey, &m_pause, qOverload<>(&QTimer::start));
     }
-    showNote({});
+    refresh();
 }
 
 ExportPlugin *PreviewPane::plugin() const
@@ -85,8 +99,21 @@ void PreviewPane::showDocument(const ManuscriptDocument *document)
     m_pause.start();
 }
 
+void PreviewPane::focusFile()
+{
+    (showsPage() ? static_cast<QWidget *>(m_page) : m_text)->setFocus(Qt::ShortcutFocusReason);
+}
+
+bool PreviewPane::showsPage() const
+{
+    return isWebFormat(plugin()) && !m_source->isChecked();
+}
+
 void PreviewPane::refresh()
 {
+    m_source->setVisible(isWebFormat(plugin()));
+    m_page->setVisible(showsPage());
+    m_text->setVisible(!showsPage());
     if (m_document == nullptr) {
         showFile({});
         return;
@@ -98,7 +125,7 @@ void PreviewPane::refresh()
     try {
         showFile(exportedDocument(*m_document, *plugin()));
     } catch (const HostError &error) {
-        m_text->clear();
+        showFile({});
         showNote(sentence(error.message()));
     }
 }
@@ -106,9 +133,15 @@ void PreviewPane::refresh()
 void PreviewPane::showFile(const QByteArray &content)
 {
     const QString text = QString::fromUtf8(content);
-    const int scrolled = m_text->verticalScrollBar()->value();
-    m_text->setPlainText(text.first(qMin(text.size(), longestPreview)));
-    m_text->verticalScrollBar()->setValue(scrolled);
+    const QString beginning = text.first(qMin(text.size(), longestPreview));
+    QScrollBar &scrollBar = *(showsPage() ? m_page->verticalScrollBar() : m_text->verticalScrollBar());
+    const int scrolled = scrollBar.value();
+    if (showsPage()) {
+        m_page->setHtml(beginning);
+    } else {
+        m_text->setPlainText(beginning);
+    }
+    scrollBar.setValue(scrolled);
     showNote(text.size() > longestPreview
                  ? tr("The preview ends after %1 characters.").arg(QLocale().toString(longestPreview))
                  : QString());

@@ -7,14 +7,16 @@
 
 #include <QtCore/QList>
 #include <QtCore/QTimer>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QTextBrowser>
 #include <QtWidgets/QWidget>
 
 namespace host {
 
-/// Shows the file that a document becomes, in the format that the user picks. Changes of the settings show by
-/// themselves.
+/// Shows the file that a document becomes, in the format that the user picks: web pages as a reader sees them, unless
+/// the user wants their source, and all other files as text. Changes of the settings show by themselves.
 class PreviewPane : public QWidget
 {
     Q_OBJECT
@@ -32,12 +34,14 @@ public:
     /// none; a document outlives its preview.
     void showDocument(const ManuscriptDocument *document);
 
-    QPlainTextEdit &text() { return *m_text; }
+    /// Puts the keyboard focus into the preview.
+    void focusFile();
 
 Q_SIGNALS:
     void pluginChanged();
 
 private:
+    bool showsPage() const;
     void refresh();
     void showFile(const QByteArray &content);
     void showNote(const QString &note);
@@ -46,6 +50,8 @@ private:
     const ManuscriptDocument *m_document = nullptr;
     QComboBox *m_formats;
     windowing::MessageLabel *m_note;
+    QCheckBox *m_source;
+    QTextBrowser *m_page;
     QPlainTextEdit *m_text;
     QTimer m_pause;
 };

@@ -5,6 +5,8 @@
 #include <OrvaneExportKit/windowing/PanelBindings.h>
 #include <OrvaneExportKit/windowing/UiLoader.h>
 
+#include <QtGui/QScreen>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -39,6 +41,7 @@ void SettingsPanel::showPanel(ExportPlugin &plugin)
         layout->setContentsMargins(0, 0, 0, 0);
         layout->addWidget(panel.release());
         setWidget(m_contentView);
+        makeRoom();
     } catch (const platform::Exception &exception) {
         showNote(tr("The settings of this format can't be shown: %1").arg(QString::fromUtf8(exception.what())));
     }
@@ -51,6 +54,14 @@ void SettingsPanel::takePanelOut()
         m_contentView->removeFromSuperview();
         delete m_contentView;
     }
+}
+
+/// Lets the panel have its width, as far as the screen allows it; what does not fit is scrolled.
+void SettingsPanel::makeRoom()
+{
+    const int wanted = m_contentView->minimumSizeHint().width() + 2 * frameWidth() +
+                       style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    setMinimumWidth(qMin(wanted, screen()->availableSize().width() / 2));
 }
 
 void SettingsPanel::showNote(const QString &note)

@@ -42,6 +42,7 @@ public:
     void takePanelOut();
 
 private:
+    void makeRoom();
     void showNote(const QString &note);
 
     std::unique_ptr<PanelController> m_controller; ///< outlives the panel, whose controls are bound to it

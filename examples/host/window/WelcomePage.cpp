@@ -43,7 +43,8 @@ WelcomePage::WelcomePage(const QStringList &recentManuscripts, QWidget *parent) 
 
 void WelcomePage::addManuscript(const QString &folder, QVBoxLayout &layout)
 {
-    auto *button = new QCommandLinkButton(platform::lastPathComponent(folder), QDir::toNativeSeparators(folder));
+    QString name = platform::lastPathComponent(folder);
+    auto *button = new QCommandLinkButton(name.replace(u'&', "&&"_L1), QDir::toNativeSeparators(folder));
     connect(button, &QPushButton::clicked, this, [this, folder] { Q_EMIT manuscriptRequested(folder); });
     layout.addWidget(button);
 }

@@ -447,6 +447,14 @@
         <source>Preview &amp;as:</source>
         <translation>Vorschau al&amp;s:</translation>
     </message>
+    <message>
+        <source>Sou&amp;rce</source>
+        <translation>&amp;Quelltext</translation>
+    </message>
+    <message>
+        <source>Preview of the page</source>
+        <translation>Vorschau der Seite</translation>
+    </message>
 </context>
 <context>
     <name>host::ResultBar</name>
