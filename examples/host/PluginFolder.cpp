@@ -91,7 +91,7 @@ PluginFolder::PluginFolder(const QString &path) : m_path(path)
     }
     for (const QString &name : folder.entryList(QDir::Files, QDir::Name)) {
         if (QLibrary::isLibrary(name)) {
-            add(folder.filePath(name));
+            add(folder.absoluteFilePath(name)); // the loader searches other places for relative paths
         }
     }
 }

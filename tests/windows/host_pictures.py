@@ -10,7 +10,7 @@ import tempfile
 import time
 from pathlib import Path
 
-from display import PATIENCE, Display, wait_until
+from windows import PATIENCE, Display, wait_until
 
 HOST, MANUSCRIPTS, PICTURES = sys.argv[1], Path(sys.argv[2]), Path(sys.argv[3])
 

@@ -12,7 +12,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from display import PATIENCE, Display, wait_until
+from windows import PATIENCE, Display, wait_until
 
 HOST = os.environ["ORVANE_HOST"]
 PLUGINS = os.environ["ORVANE_TEST_PLUGINS"]

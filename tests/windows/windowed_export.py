@@ -14,6 +14,7 @@ from windows import Display, Program, expect_palette
 
 PROGRAM = os.environ["ORVANE_WINDOWED_EXPORT"]
 MANUSCRIPTS = Path(os.environ["ORVANE_MANUSCRIPTS"])
+PICTURES = Path(os.environ["ORVANE_PICTURES"])
 
 ENGLISH = "the-lamplighters-ledger"
 GERMAN = "die-gezeitenuhr"
@@ -158,11 +159,11 @@ class Appearance(unittest.TestCase):
         options = ["--language", language, "--milliseconds", "150", *(["--dark"] if dark else [])]
         export = Export(display, manuscript, destination, *options, scale=scale)
         question = export.window("overwritePanel")
-        expect_palette(self, display, display.picture(f"overwrite-{name}"), dark)
+        expect_palette(self, display, display.picture(PICTURES / f"overwrite-{name}.png"), dark)
         export.click(question, "replaceButton")
         export.window("progressPanel")
         time.sleep(0.3)
-        expect_palette(self, display, display.picture(f"progress-{name}"), dark)
+        expect_palette(self, display, display.picture(PICTURES / f"progress-{name}.png"), dark)
         display.input("key", "Escape")
         self.assertEqual(export.end()["end"], "aborted")
 

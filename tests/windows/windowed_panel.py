@@ -13,6 +13,7 @@ from pathlib import Path
 
 from windows import Display, Program, expect_palette, wait_until
 
+PICTURES = Path(os.environ["ORVANE_PICTURES"])
 PROGRAM = os.environ["ORVANE_PANEL"]
 PLUGINS = os.environ["ORVANE_REPORTER_PLUGINS"]
 DOMAIN = "org.orvane.example.panel"
@@ -158,7 +159,7 @@ class Appearance(unittest.TestCase):
                         self.addCleanup(panel.kill)
                         time.sleep(0.3)  # until the palette is in force
                         name = f"panel-{language[:2]}-{'dark' if dark else 'light'}-{scale}00"
-                        expect_palette(self, display, display.picture(name), dark)
+                        expect_palette(self, display, display.picture(PICTURES / f"{name}.png"), dark)
                         panel.close()
 
 

@@ -5,9 +5,7 @@ import os
 import subprocess
 import tempfile
 import time
-from pathlib import Path
 
-PICTURES = Path(os.environ["ORVANE_PICTURES"])
 PATIENCE = 20  # seconds
 
 
@@ -54,9 +52,8 @@ class Display:
     def active_window(self):
         return int(self.run("xdotool", "getactivewindow").stdout or 0)
 
-    def picture(self, name):
-        PICTURES.mkdir(parents=True, exist_ok=True)
-        path = PICTURES / f"{name}.png"
+    def picture(self, path):
+        path.parent.mkdir(parents=True, exist_ok=True)
         result = self.run("import", "-window", "root", "-define", "png:exclude-chunks=date,time", str(path))
         if result.returncode != 0:
             raise AssertionError(result.stderr)
