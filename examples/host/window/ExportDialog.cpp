@@ -74,7 +74,7 @@ ExportDialog::ExportDialog(const Manuscript &manuscript, const QList<ExportPlugi
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(sides, 1);
     layout->addWidget(buttons);
-    resize(1000, 600);
+    resize(1120, 600);
     m_format->setFocus();
 
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -132,7 +132,7 @@ QWidget *ExportDialog::filesSide()
     list->setRootIsDecorated(false);
     list->setUniformRowHeights(true);
     list->setTextElideMode(Qt::ElideMiddle);
-    list->header()->setSectionResizeMode(QHeaderView::Stretch);
+    list->header()->resizeSection(OutputNamesModel::NameColumn, 32 * list->fontMetrics().averageCharWidth());
     list->setTabKeyNavigation(false);
     m_summary->setObjectName(u"summary"_s);
     m_summary->setWordWrap(true);
