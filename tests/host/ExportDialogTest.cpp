@@ -97,6 +97,16 @@ TEST_F(ExportDialogTest, AFolderWithADotInItsNameStaysAFolder)
     EXPECT_EQ(host::destinationFolder(dialog->names()), path(u"Vol.2"_s) + u'/');
 }
 
+TEST_F(ExportDialogTest, ATildeStandsForTheFolderOfTheUser)
+{
+    const auto dialog = openDialog();
+    dialog->findChild<QLineEdit *>(u"exportFolder"_s)->setText(u"~/Novel"_s);
+    EXPECT_EQ(dialog->names().destination, QDir::homePath() + u"/Novel/"_s);
+    dialog->accept();
+    const host::ExportDialog next(m_manuscript, {&m_plugin}, {}, nullptr);
+    EXPECT_EQ(next.findChild<QLineEdit *>(u"exportFolder"_s)->text(), u"~/Novel"_s);
+}
+
 TEST_F(ExportDialogTest, AcceptedItKeepsTheChoicesForTheNextTime)
 {
     {

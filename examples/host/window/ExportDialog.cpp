@@ -29,6 +29,19 @@ constexpr int millisecondsOfPause = 120;
 
 const QStringList usualFileNames{u"<1>"_s, u" "_s, u"<2>"_s};
 
+/// A path as it is typed, with "~" for the user's folder.
+QString typedPath(const QString &path)
+{
+    const QString home = QDir::homePath();
+    return path.startsWith(home + u'/') ? u'~' + path.sliced(home.size()) : path;
+}
+
+QString absolutePath(const QString &typed)
+{
+    const bool startsAtHome = typed == u"~" || typed.startsWith("~/"_L1);
+    return QDir(startsAtHome ? QDir::homePath() + typed.sliced(1) : typed).absolutePath();
+}
+
 QLabel *labelFor(QWidget *buddy, const QString &text)
 {
     auto *label = new QLabel(text);
@@ -104,7 +117,7 @@ QWidget *ExportDialog::formatSide()
 QWidget *ExportDialog::filesSide()
 {
     m_folder->setObjectName(u"exportFolder"_s);
-    m_folder->setText(keptValue(keys::destination, QDir::homePath()).toString());
+    m_folder->setText(typedPath(keptValue(keys::destination, QDir::homePath()).toString()));
     auto *choose = new QPushButton(tr("&Choose…"));
     choose->setAutoDefault(false);
     connect(choose, &QPushButton::clicked, this, &ExportDialog::chooseFolder);
@@ -159,10 +172,8 @@ ExportPlugin &ExportDialog::plugin() const
 OutputNames ExportDialog::names() const
 {
     // The slash says that it is a folder, whatever its name looks like.
-    return {QDir(m_folder->text()).absolutePath() + u'/',
-            m_fileNames->value().join(QString()),
-            {},
-            m_convertSpaces->isChecked()};
+    return {
+        absolutePath(m_folder->text()) + u'/', m_fileNames->value().join(QString()), {}, m_convertSpaces->isChecked()};
 }
 
 /// Ends the edit in progress first, so that what is typed counts.
@@ -192,8 +203,9 @@ void ExportDialog::chooseFolder()
     panel->setWindowTitle(tr("Choose the Folder for the Files"));
     panel->setFileMode(QFileDialog::Directory);
     panel->setOption(QFileDialog::ShowDirsOnly);
-    panel->setDirectory(m_folder->text());
-    connect(panel, &QFileDialog::fileSelected, m_folder, &QLineEdit::setText);
+    panel->setDirectory(absolutePath(m_folder->text()));
+    connect(panel, &QFileDialog::fileSelected, m_folder,
+            [this](const QString &path) { m_folder->setText(typedPath(path)); });
     panel->open();
 }
 
@@ -237,7 +249,7 @@ QString ExportDialog::summary() const
 
 void ExportDialog::keepChoices() const
 {
-    keepValue(keys::destination, QDir(m_folder->text()).absolutePath());
+    keepValue(keys::destination, absolutePath(m_folder->text()));
     keepValue(keys::fileNames, m_fileNames->value());
     keepValue(keys::convertSpaces, m_convertSpaces->isChecked());
     try {
