@@ -13,7 +13,10 @@ public:
     QString name() const override { return QStringLiteral("echo"); }
     QString displayName() const override { return QStringLiteral("Echo"); }
     QString pathExtension() const override { return QStringLiteral("echo"); }
-    QList<Choice> choices() const override { return {}; }
+    QList<Choice> choices() const override
+    {
+        return {{QStringLiteral("suffix"), QStringLiteral("<"), QStringLiteral("what stands behind the text")}};
+    }
     KZExportSettings &settings() override { return m_settings; }
     void setChoice(const QString & /*key*/, const QString & /*value*/) override {}
 

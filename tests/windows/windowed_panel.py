@@ -43,7 +43,8 @@ class Panel(Program):
         self.press("Tab")
 
     def close(self):
-        self.press("alt+F4")
+        """Closes the window as a user does, who tries again when a window manager that has just started did not hear."""
+        wait_until(lambda: self.press("alt+F4") or self.has_ended(), "the panel to close")
         self.wait()
 
 

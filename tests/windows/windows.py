@@ -104,6 +104,14 @@ class Program:
         self.display.input("mousemove", "--window", window["id"], left + (width // 2 if x is None else x),
                            top + height // 2, "click", "--repeat", times, "--delay", 50, 1)
 
+    def has_ended(self):
+        """Whether the program ends within two seconds."""
+        try:
+            self.process.wait(2)
+        except subprocess.TimeoutExpired:
+            return False
+        return True
+
     def wait(self):
         self.process.stdout.close()
         assert self.process.wait(PATIENCE) == 0

@@ -28,6 +28,7 @@ SettingsPanel::~SettingsPanel()
 void SettingsPanel::showPanel(ExportPlugin &plugin)
 {
     takePanelOut();
+    plugin.storeMissingChoices(); // so that the controls show what holds
     if (plugin.bundle().pathForResource(u"Panel"_s, u"ui"_s).isEmpty()) {
         showNote(tr("This format has no settings to choose here."));
         return;
