@@ -115,7 +115,8 @@ TEST_F(ExportDialogTest, AcceptedItKeepsTheChoicesForTheNextTime)
         m_plugin.settings().setValue(u"#"_s, u"prefix"_s);
         dialog->accept();
     }
-    EXPECT_EQ(defaults().persistentDomainForName(u"org.orvane.test.echo"_s), (QVariantMap{{u"prefix"_s, u"#"_s}, {u"suffix"_s, u"<"_s}}));
+    EXPECT_EQ(defaults().persistentDomainForName(u"org.orvane.test.echo"_s),
+              (QVariantMap{{u"prefix"_s, u"#"_s}, {u"suffix"_s, u"<"_s}}));
     const host::ExportDialog next(m_manuscript, {&m_plugin}, {}, nullptr);
     EXPECT_EQ(next.names().pattern, u"<2>"_s);
     EXPECT_EQ(next.names().destination, destination() + u'/');
