@@ -48,7 +48,7 @@ QString choiceIn(const KZExportSettings &settings, const QList<ChoiceRule> &rule
 {
     const ChoiceRule &rule = ruleOf(rules, key);
     const QVariant stored = settings.objectForKey(key);
-    const QString value = stored.isValid() ? stored.toString() : rule.defaultValue;
+    QString value = stored.isValid() ? stored.toString() : rule.defaultValue;
     requireAccepted(rule, value);
     return value;
 }

@@ -102,7 +102,7 @@ Page pageIn(const KZExportSettings &settings)
     const auto text = [&settings](const QString &key) {
         return choiceIn(settings, pageChoices(), key);
     };
-    const Page page{
+    Page page{
         text(u"font-name"_s),
         text(u"font-size"_s).toDouble(),
         platform::sizeFromString(text(u"paper-size"_s)).value_or(QSizeF()),
