@@ -112,8 +112,9 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *bytes, std::size_t si
     static_cast<void>(application);
 
     Panel panel;
-    const QStringList lines =
-        QString::fromUtf8(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size)).split(u'\n');
+    const QStringList lines = QString::fromUtf8(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size))
+                                  .remove(QChar::Null) // which interface files cannot hold
+                                  .split(u'\n');
     for (const QString &line : lines) {
         if (!line.isEmpty() && !line.startsWith(u'=')) {
             QWidget *control = panel.control(line[0]);

@@ -6,26 +6,39 @@
 #include <OrvaneExportKit/platform/PropertyList.h>
 
 #include <algorithm>
+#include <cstdlib>
 
-/// Whether a property list stands for few enough values to be walked: small ones that share each other in a binary list
-/// can stand for more than memory holds.
-inline bool isShort(const QVariant &value, int &valuesLeft)
+/// Whether a value comes back from the binary format exactly and can be walked: dates far away lose milliseconds to the
+/// seconds in doubles, and small values that share each other can stand for more than memory holds.
+inline bool isExact(const QVariant &value, int &valuesLeft)
 {
+    constexpr qint64 exact = qint64{1} << 50;
+    const auto isExactElement = [&valuesLeft](const QVariant &element) {
+        return isExact(element, valuesLeft);
+    };
     if (--valuesLeft < 0) {
         return false;
     }
-    const auto isShortElement = [&valuesLeft](const QVariant &element) {
-        return isShort(element, valuesLeft);
-    };
-    if (value.typeId() == QMetaType::QVariantList) {
+    switch (value.typeId()) {
+    case QMetaType::QDateTime:
+        return std::abs(value.toDateTime().toMSecsSinceEpoch()) < exact;
+    case QMetaType::QVariantList: {
         const QVariantList list = value.toList();
-        return std::all_of(list.begin(), list.end(), isShortElement);
+        return std::all_of(list.begin(), list.end(), isExactElement);
     }
-    if (value.typeId() == QMetaType::QVariantMap) {
+    case QMetaType::QVariantMap: {
         const QVariantMap map = value.toMap();
-        return std::all_of(map.begin(), map.end(), isShortElement);
+        return std::all_of(map.begin(), map.end(), isExactElement);
     }
-    return true;
+    default:
+        return true;
+    }
+}
+
+inline bool isExact(const QVariant &value)
+{
+    int valuesLeft = 2000;
+    return isExact(value, valuesLeft);
 }
 
 /// Writes a value that was read, and requires that reading gives it back. Answers whether it could be written.
