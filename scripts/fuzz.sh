@@ -21,5 +21,5 @@ cmake --build build/fuzz --target "fuzz_$target"
 
 mkdir -p "build/fuzz/inputs/$target" build/fuzz/found
 QT_QPA_PLATFORM=offscreen "build/fuzz/fuzz/fuzz_$target" "build/fuzz/inputs/$target" "fuzz/corpus/$target" \
-    -artifact_prefix="build/fuzz/found/$target-" -max_total_time="$seconds" -max_len=4096 -timeout=10 \
+    -artifact_prefix="build/fuzz/found/$target-" -max_total_time="$seconds" -max_len=4096 -timeout=300 \
     -rss_limit_mb=2048 -malloc_limit_mb=1024 -use_value_profile=1 -print_final_stats=1
