@@ -112,20 +112,21 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *bytes, std::size_t si
     static_cast<void>(application);
 
     Panel panel;
-    const QStringList lines = QString::fromUtf8(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size))
-                                  .remove(QChar::Null) // which interface files cannot hold
-                                  .split(u'\n');
-    for (const QString &line : lines) {
-        if (!line.isEmpty() && !line.startsWith(u'=')) {
+    QStringList lines = QString::fromUtf8(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(size))
+                            .remove(QChar::Null) // which interface files cannot hold
+                            .split(u'\n');
+    lines.removeIf([](const QString &line) { return line.isEmpty() || line[0].isSurrogate(); });
+    for (const QString &line : std::as_const(lines)) {
+        if (!line.startsWith(u'=')) {
             QWidget *control = panel.control(line[0]);
             control->setProperty("bindings", control->property("bindings").toStringList() << line.sliced(1));
         }
     }
     const QString complaints = panel.bind();
-    for (const QString &line : lines) {
+    for (const QString &line : std::as_const(lines)) {
         if (line.startsWith(u'=')) {
             panel.store(line.section(u'=', 1, 1), line.section(u'=', 2));
-        } else if (!line.isEmpty()) {
+        } else {
             const QString entry = line.sliced(1);
             const QString name = entry.section(u'=', 0, 0).trimmed();
             require(windowing::infoForBinding(panel.control(line[0]), name) || complaints.contains(entry),
