@@ -188,6 +188,13 @@ TEST(TextAllocation, ApplyEdits)
     onAllTexts([&edits](auto &text) { applyEdits(text, edits); });
 }
 
+TEST(TextAllocation, ApplyEditsToAnEmptyText)
+{
+    const platform::TextEdits edits{{{0, 0}, u"a text that is long enough to need memory"}};
+    failEveryAllocation([] { return AttributedString(); },
+                        [&edits](AttributedString &text) { applyEdits(text, edits); });
+}
+
 TEST(TextAllocation, AttributedStringOfAText)
 {
     const QString text = plainText();
