@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <limits>
 #include <new>
 
 namespace platform {
@@ -58,6 +59,9 @@ public:
 
     void append(const Writer &other)
     {
+        if (other.m_data.size() > std::numeric_limits<int>::max()) {
+            throw InvalidArgumentException("encodeObject: a value takes more than 2147483647 bytes");
+        }
         m_stream.writeRawData(other.m_data.constData(), static_cast<int>(other.m_data.size()));
     }
 

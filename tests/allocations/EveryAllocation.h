@@ -24,9 +24,6 @@ enum class Allowed {
     /// Qt ends the program itself: a `QHash` that grows does it in a function that must not throw, and a list that is
     /// made of braces or leaves what it shares does not look whether it got memory.
     EndByQt,
-
-    /// The same, and a change of several ranges may have been carried out in part; a second try completes it.
-    EndByQtAndPartOfTheWork,
 };
 
 /// How an operation ended.
@@ -34,9 +31,8 @@ enum class Outcome {
     Succeeded,     ///< with what it gives when no allocation fails
     SucceededLate, ///< the same, although one failed
     Threw,         ///< `std::bad_alloc`, and the object is as it was before
-    ThrewMidway,   ///< the same, and a second try completed what was done in part
     WrongResult,
-    BrokenObject,
+    ChangedObject,
     OtherException,
     Leaked,
     Crashed,
@@ -50,12 +46,10 @@ inline const char *description(Outcome outcome)
         return "succeeded";
     case Outcome::Threw:
         return "threw std::bad_alloc";
-    case Outcome::ThrewMidway:
-        return "threw std::bad_alloc and left part of the work done";
     case Outcome::WrongResult:
         return "went on and gave a wrong result";
-    case Outcome::BrokenObject:
-        return "threw std::bad_alloc and cannot be tried again";
+    case Outcome::ChangedObject:
+        return "threw std::bad_alloc and left an object that is neither as before nor done, or cannot be tried again";
     case Outcome::OtherException:
         return "threw another exception";
     case Outcome::Leaked:
@@ -88,9 +82,9 @@ Outcome outcomeOf(const Make &make, const Act &act, const State &expected, std::
         if (isOther) {
             outcome = Outcome::OtherException;
         } else if (hasThrown) {
-            outcome = state == make() || state == expected ? Outcome::Threw : Outcome::ThrewMidway;
+            const bool isAsBefore = state == make() || state == expected;
             act(state);
-            outcome = state == expected ? outcome : Outcome::BrokenObject;
+            outcome = isAsBefore && state == expected ? Outcome::Threw : Outcome::ChangedObject;
         } else if (!(state == expected)) {
             outcome = Outcome::WrongResult;
         } else if (hasFailed) {
@@ -121,8 +115,6 @@ inline bool isAllowed(Outcome outcome, Allowed allowed)
         return true;
     case Outcome::Crashed:
         return allowed != Allowed::Nothing;
-    case Outcome::ThrewMidway:
-        return allowed == Allowed::EndByQtAndPartOfTheWork;
     default:
         return false;
     }

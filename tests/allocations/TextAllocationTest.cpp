@@ -11,7 +11,6 @@
 #include <OrvaneExportKit/text/Typography.h>
 
 using namespace Qt::Literals::StringLiterals;
-using allocations::Allowed;
 using allocations::failEveryAllocation;
 using allocations::failEveryAllocationOf;
 using platform::AttributedString;
@@ -56,11 +55,11 @@ void onPlainTexts(const Act &act)
 }
 
 template <typename Act>
-void onAttributedTexts(const Act &act, Allowed allowed = Allowed::Nothing)
+void onAttributedTexts(const Act &act)
 {
-    failEveryAllocation(attributedText, act, allowed);
+    failEveryAllocation(attributedText, act);
     const AttributedString shared = attributedText();
-    failEveryAllocation([&shared] { return shared; }, act, allowed);
+    failEveryAllocation([&shared] { return shared; }, act);
 }
 
 template <typename Act>
@@ -91,17 +90,14 @@ TEST(TextAllocation, EncloseRanges)
 
 TEST(TextAllocation, AddAttributes)
 {
-    onAttributedTexts(
-        [](AttributedString &text) {
-            library::addAttributes(text, {{u"style"_s, u"heading"_s}, {u"size"_s, 12}}, ranges);
-        },
-        Allowed::EndByQtAndPartOfTheWork);
+    onAttributedTexts([](AttributedString &text) {
+        library::addAttributes(text, {{u"style"_s, u"heading"_s}, {u"size"_s, 12}}, ranges);
+    });
 }
 
 TEST(TextAllocation, RemoveAttribute)
 {
-    onAttributedTexts([](AttributedString &text) { library::removeAttribute(text, u"style"_s, ranges); },
-                      Allowed::EndByQtAndPartOfTheWork);
+    onAttributedTexts([](AttributedString &text) { library::removeAttribute(text, u"style"_s, ranges); });
 }
 
 TEST(TextAllocation, RangesForAttribute)
@@ -204,11 +200,7 @@ TEST(TextAllocation, AttributedStringOfAText)
 
 TEST(TextAllocation, SetAttributes)
 {
-    onAttributedTexts(
-        [](AttributedString &text) {
-            text.setAttributes({{u"style"_s, u"x"_s}}, {5, 9});
-        },
-        Allowed::EndByQtAndPartOfTheWork);
+    onAttributedTexts([](AttributedString &text) { text.setAttributes({{u"style"_s, u"x"_s}}, {5, 9}); });
 }
 
 TEST(TextAllocation, ReplaceCharacters)
