@@ -34,7 +34,7 @@ QVariant text()
 {
     QList<AttributedString::Stretch> stretches;
     for (int i = 0; i < many; ++i) {
-        stretches.append({10, {{u"style"_s, i % 7}, {u"language"_s, u"en"_s}}});
+        stretches.append({10, {{u"style"_s, qint64{i % 7}}, {u"language"_s, u"en"_s}}});
     }
     return QVariant::fromValue(AttributedString::fromStretches(QString(10 * many, u'x'), stretches));
 }

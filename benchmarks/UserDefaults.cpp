@@ -19,6 +19,9 @@ namespace {
 using namespace Qt::Literals::StringLiterals;
 using platform::UserDefaults;
 
+/// One setting counts how often they have been saved, so that there is something new to save each time.
+qint64 saves = 0;
+
 /// The settings under the keys "group/style/name" of an INI file.
 QVariantMap iniEntries(const QVariantMap &settings)
 {
@@ -54,12 +57,13 @@ void saveByKit(benchmark::State &state, const QString &folderTemplate)
 {
     const QTemporaryDir folder(folderTemplate);
     const QString domain = u"com.example.plain-text"_s;
-    const QVariantMap settings = sampleSettings();
+    QVariantMap settings = sampleSettings();
     UserDefaults defaults(folder.path());
     if (!defaults.setPersistentDomain(settings, domain) || defaults.persistentDomainForName(domain) != settings) {
         state.SkipWithError("the settings were not saved");
     }
     for (auto _ : state) {
+        settings.insert(u"saved"_s, ++saves);
         defaults.setPersistentDomain(settings, domain);
     }
 }
@@ -68,7 +72,7 @@ void saveByQSettings(benchmark::State &state, const QString &folderTemplate)
 {
     const QTemporaryDir folder(folderTemplate);
     const QString file = folder.filePath(u"plain-text.ini"_s);
-    const QVariantMap entries = iniEntries(sampleSettings());
+    QVariantMap entries = iniEntries(sampleSettings());
     QSettings settings(file, QSettings::IniFormat);
     const auto save = [&settings, &entries] {
         for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry) {
@@ -81,6 +85,7 @@ void saveByQSettings(benchmark::State &state, const QString &folderTemplate)
         state.SkipWithError("the settings were not saved");
     }
     for (auto _ : state) {
+        entries.insert(u"saved"_s, ++saves);
         save();
     }
 }
