@@ -20,6 +20,13 @@ struct LineTerminators {
     }
 };
 
+/// Most blocks of a text in ASCII are done with when no control character stands in them.
+UnitMask fullMask(const char16_t *units, const LineTerminators &terminators)
+{
+    static constexpr AsciiSieve<1> candidates({{{u'\n', u'\r'}}}, true);
+    return platform::fullMask(units, candidates) == 0 ? 0 : platform::fullMask<LineTerminators>(units, terminators);
+}
+
 std::size_t lineStart(std::u16string_view text, std::size_t index)
 {
     const std::size_t start = findBehindLastUnit(text, 0, index, LineTerminators());

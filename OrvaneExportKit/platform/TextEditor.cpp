@@ -10,6 +10,13 @@ char16_t *moved(const char16_t *first, const char16_t *last, char16_t *target)
     return target == first ? target + (last - first) : std::copy(first, last, target);
 }
 
+/// How much longer the `rest` of a text becomes if it grows as the `length` units before it did, at most by its length.
+std::size_t expectedGrowth(std::size_t growth, std::size_t length, std::size_t rest)
+{
+    const double ratio = static_cast<double>(growth) / static_cast<double>(std::max<std::size_t>(length, 1));
+    return static_cast<std::size_t>(std::min(ratio, 1.0) * static_cast<double>(rest));
+}
+
 } // namespace
 
 std::size_t growthByEdits(const TextEdits &edits)
@@ -62,17 +69,10 @@ void TextEditor::apply(const TextEdits &edits, std::size_t next)
 void TextEditor::makeRoom(std::size_t growth, std::size_t next)
 {
     const std::size_t gap = m_shift + m_position - m_done;
-    if (growth <= gap) {
-        return;
+    if (growth > gap) {
+        const std::size_t expected = expectedGrowth(growth, next - m_position, m_length - next);
+        widenGap(growth - gap + (next == m_length ? 0 : std::max(expected, m_shift)));
     }
-    const std::size_t missing = growth - gap;
-    if (next == m_length) {
-        widenGap(missing);
-        return;
-    }
-    const double rest = static_cast<double>(m_length - next) / static_cast<double>(next - m_position);
-    const double expected = std::min(static_cast<double>(growth) * rest, static_cast<double>(m_length));
-    widenGap(missing + std::max(static_cast<std::size_t>(expected), m_shift));
 }
 
 void TextEditor::widenGap(std::size_t growth)
@@ -84,6 +84,29 @@ void TextEditor::widenGap(std::size_t growth)
     char16_t *const start = buffer();
     std::copy_backward(start + m_shift + m_position, start + kept, start + kept + growth);
     m_shift += growth;
+}
+
+void appendEdited(QString &copy, std::u16string_view text, std::size_t position, std::size_t next,
+                  const TextEdits &edits)
+{
+    const auto done = static_cast<std::size_t>(copy.size());
+    std::size_t added = next - position;
+    for (const TextEdit &edit : edits) {
+        added = added - edit.range.length + edit.replacement.size();
+    }
+    if (copy.capacity() < static_cast<qsizetype>(done + added)) {
+        const std::size_t growth = added - std::min(added, next - position);
+        const std::size_t rest = text.size() - next;
+        copy.reserve(static_cast<qsizetype>(done + added + rest + expectedGrowth(growth, next - position, rest)));
+    }
+    copy.resize(static_cast<qsizetype>(done + added));
+    char16_t *target = reinterpret_cast<char16_t *>(copy.data()) + done;
+    for (const TextEdit &edit : edits) {
+        target = std::copy(text.data() + position, text.data() + edit.range.location, target);
+        target = std::copy(edit.replacement.begin(), edit.replacement.end(), target);
+        position = edit.range.end();
+    }
+    std::copy(text.data() + position, text.data() + next, target);
 }
 
 } // namespace platform

@@ -67,6 +67,28 @@ void editInBlocks(QString &text, Find &&find)
     }
 }
 
+/// Appends the units of `text` from `position` to before `next` to `copy`, edited. `edits` lie there.
+void appendEdited(QString &copy, std::u16string_view text, std::size_t position, std::size_t next,
+                  const TextEdits &edits);
+
+/// An edited copy of the text. `find` is called as `editInBlocks` calls it.
+template <typename Find>
+QString editedCopy(std::u16string_view text, Find &&find)
+{
+    QString copy;
+    TextEdits edits;
+    std::size_t position = 0;
+    for (bool atEnd = false; !atEnd;) {
+        const std::size_t until = std::min(text.size(), position + unitsEditedAtOnce);
+        atEnd = until == text.size();
+        edits.clear();
+        const std::size_t next = find(text, position, until, edits);
+        appendEdited(copy, text, position, next, edits);
+        position = next;
+    }
+    return copy;
+}
+
 /// Makes all edits that `find` finds at once: for attributed text, and where edits only make the text longer.
 template <typename Text, typename Find>
 void editAtOnce(Text &text, Find &&find)

@@ -2,6 +2,8 @@
 
 #include <OrvaneExportKit/platform/Range.h>
 
+#include <QtCore/QtGlobal>
+
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -75,6 +77,7 @@ OneOf(Units...) -> OneOf<sizeof...(Units)>;
 
 /// The kind of units in four ranges of ASCII and, where it is wanted, all units from U+007F on: a quick first sieve for
 /// a larger set of units, which lets some through that are not in the set.
+template <std::size_t count>
 class AsciiSieve
 {
 public:
@@ -83,7 +86,7 @@ public:
         char16_t last;
     };
 
-    AsciiSieve(const std::array<Bounds, 4> &ranges, bool withOthers) : m_ranges(ranges), m_withOthers(withOthers) {}
+    constexpr AsciiSieve(const std::array<Bounds, count> &ranges, bool withOthers) : m_ranges(ranges), m_withOthers(withOthers) {}
 
     bool operator()(char16_t unit) const
     {
@@ -95,7 +98,7 @@ public:
 
 #if defined(__SSE2__)
     /// One bit a unit for sixteen units, as bytes: what is beyond ASCII becomes 0x7F or more.
-    friend UnitMask maskOfSixteen(const char16_t *units, const AsciiSieve &sieve)
+    Q_ALWAYS_INLINE friend UnitMask maskOfSixteen(const char16_t *units, const AsciiSieve &sieve)
     {
         const __m128i bytes = _mm_packs_epi16(EightUnits::at(units).lanes, EightUnits::at(units + 8).lanes);
         __m128i misses = sieve.m_withOthers ? _mm_subs_epu8(allBytes(0x7F), bytes) : allBytes(0xFF);
@@ -115,7 +118,7 @@ private:
     }
 #endif
 
-    std::array<Bounds, 4> m_ranges;
+    std::array<Bounds, count> m_ranges;
     bool m_withOthers;
 };
 
@@ -133,7 +136,7 @@ UnitMask plainMask(const char16_t *units, std::size_t count, const Kind &kind)
 #if defined(__SSE2__)
 /// One bit a unit for sixteen units.
 template <typename Kind>
-UnitMask maskOfSixteen(const char16_t *units, const Kind &kind)
+Q_ALWAYS_INLINE UnitMask maskOfSixteen(const char16_t *units, const Kind &kind)
 {
     const __m128i answers = _mm_packs_epi16(kind(EightUnits::at(units)).lanes, kind(EightUnits::at(units + 8)).lanes);
     return static_cast<UnitMask>(_mm_movemask_epi8(answers));
@@ -141,20 +144,20 @@ UnitMask maskOfSixteen(const char16_t *units, const Kind &kind)
 
 /// One bit a unit for 64 units.
 template <typename Kind>
-UnitMask fullMask(const char16_t *units, const Kind &kind)
+Q_ALWAYS_INLINE UnitMask fullMask(const char16_t *units, const Kind &kind)
 {
     return maskOfSixteen(units, kind) | maskOfSixteen(units + 16, kind) << 16 | maskOfSixteen(units + 32, kind) << 32 |
            maskOfSixteen(units + 48, kind) << 48;
 }
 #else
 template <typename Kind>
-UnitMask maskOfSixteen(const char16_t *units, const Kind &kind)
+Q_ALWAYS_INLINE UnitMask maskOfSixteen(const char16_t *units, const Kind &kind)
 {
     return plainMask(units, 16, kind);
 }
 
 template <typename Kind>
-UnitMask fullMask(const char16_t *units, const Kind &kind)
+Q_ALWAYS_INLINE UnitMask fullMask(const char16_t *units, const Kind &kind)
 {
     return plainMask(units, maskedUnits, kind);
 }
@@ -232,6 +235,16 @@ std::size_t findBehindLastUnit(std::u16string_view text, std::size_t from, std::
     return until;
 }
 
+/// The mask of the units among 64 that equal `first` and stand before one that equals `second`. Reads 65 units.
+Q_ALWAYS_INLINE UnitMask maskOfPairs(const char16_t *units, char16_t first, char16_t second)
+{
+    const UnitMask firsts = fullMask(units, OneOf{first});
+    if (first != second) {
+        return firsts == 0 ? 0 : firsts & fullMask(units + 1, OneOf{second});
+    }
+    return firsts & (firsts >> 1 | UnitMask{units[maskedUnits] == second} << (maskedUnits - 1));
+}
+
 /// Calls `visit(index)` for every place before `until` where the literal stands, overlapping ones included, from left
 /// to right. An empty literal stands nowhere.
 template <typename Visit>
@@ -247,23 +260,16 @@ void forEachLiteral(std::u16string_view text, std::u16string_view literal, std::
         forEachUnit(text.substr(0, until), from, first, visit);
         return;
     }
-    const OneOf second{literal[1]};
-    const bool sameUnits = literal[0] == literal[1];
     const auto visitIfWhole = [&](std::size_t at) {
-        if (literal.size() == 2 || text.substr(at + 2).starts_with(literal.substr(2))) {
+        if (text.substr(at + 1).starts_with(literal.substr(1))) {
             visit(at);
         }
     };
-    for (std::size_t at = from; at < until; at += maskedUnits) {
-        const UnitMask firsts = maskAt(text, at, first);
-        const UnitMask seconds = sameUnits ? firsts : maskAt(text, at, second);
-        const bool isNextBlockSecond = text.size() - at > maskedUnits && text[at + maskedUnits] == literal[1];
-        UnitMask pairs = firsts & (seconds >> 1 | UnitMask{isNextBlockSecond} << (maskedUnits - 1));
-        if (until - at < maskedUnits) {
-            pairs &= (UnitMask{1} << (until - at)) - 1;
-        }
-        forEachBit(pairs, at, visitIfWhole);
+    std::size_t at = from;
+    for (; at + maskedUnits <= until; at += maskedUnits) {
+        forEachBit(maskOfPairs(text.data() + at, literal[0], literal[1]), at, visitIfWhole);
     }
+    forEachUnit(text.substr(0, until), at, first, visitIfWhole);
 }
 
 } // namespace platform

@@ -53,32 +53,50 @@ private:
     std::size_t m_behindBackslash = platform::notFound; // behind the last one
 };
 
-/// Applies pairs one after the other. In a long text those of single units are gathered and made in one pass.
+/// Applies pairs one after the other to a copy of a text. In a long text those of single units are gathered and made in
+/// one pass.
 class Substitution
 {
 public:
-    explicit Substitution(QString &text) : m_text(text) {}
+    explicit Substitution(QStringView text) : m_given(text) {}
 
     void apply(const QString &from, const QString &to)
     {
         constexpr qsizetype longText = 2000; // about where gathering begins to pay
-        if (from.size() == 1 && m_text.size() >= longText && appendReplacement(m_gathered, units(from).front(), to)) {
+        if (from.size() == 1 && m_given.size() >= longText && appendReplacement(m_gathered, units(from).front(), to)) {
             return;
         }
-        finish();
-        platform::editInBlocks(m_text, platform::Replacements{units(from), units(to)});
+        makeGathered();
+        edit(platform::Replacements{units(from), units(to)});
     }
 
-    void finish()
+    QString result()
+    {
+        makeGathered();
+        return m_copy ? std::move(*m_copy) : m_given.toString();
+    }
+
+private:
+    void makeGathered()
     {
         if (!m_gathered.empty()) {
-            platform::editInBlocks(m_text, platform::UnitReplacementFinder(m_gathered));
+            edit(platform::UnitReplacementFinder(m_gathered));
             m_gathered.clear();
         }
     }
 
-private:
-    QString &m_text;
+    template <typename Find>
+    void edit(const Find &find)
+    {
+        if (m_copy) {
+            platform::editInBlocks(*m_copy, find);
+        } else {
+            m_copy = platform::editedCopy(units(m_given), find);
+        }
+    }
+
+    QStringView m_given;
+    std::optional<QString> m_copy; // once something was applied
     platform::UnitReplacements m_gathered;
 };
 
@@ -88,20 +106,16 @@ namespace KZStringExportAdditions {
 
 QString stringWithConvertedEscSequences(QStringView text)
 {
-    QString converted = text.toString();
-    platform::editInBlocks(converted, EscapeFinder());
-    return converted;
+    return platform::editedCopy(units(text), EscapeFinder());
 }
 
 QString stringWithConvertedStringsFromArray(QStringView text, const QStringList &from, const QStringList &to)
 {
-    QString converted = text.toString();
-    Substitution substitution(converted);
+    Substitution substitution(text);
     for (qsizetype pair = std::min(from.size(), to.size()); pair-- > 0;) {
         substitution.apply(from[pair], to[pair]);
     }
-    substitution.finish();
-    return converted;
+    return substitution.result();
 }
 
 } // namespace KZStringExportAdditions

@@ -20,7 +20,6 @@
 
 #include <chrono>
 #include <cstring>
-#include <numeric>
 
 namespace {
 
@@ -90,65 +89,49 @@ double median(std::vector<double> values)
     return *middle;
 }
 
-/// The second of two copies in a row, into the same place.
-double secondsOfWarmMemcpy(const QString &text)
+/// Copies the text into the storage of `own`, twice, and returns the seconds of the second time: one warm memcpy.
+double copyWarm(const QString &text, QString &own)
 {
-    static QString target;
-    target.resize(text.size());
+    own.resize(text.size());
     const auto bytes = static_cast<std::size_t>(text.size()) * sizeof(char16_t);
     Clock::time_point start;
     for (int round = 0; round < 2; ++round) {
         start = Clock::now();
-        std::memcpy(target.data(), text.constData(), bytes);
+        std::memcpy(own.data(), text.constData(), bytes);
         benchmark::ClobberMemory();
     }
     return secondsSince(start);
 }
 
-/// Reads all units, so that they are in the cache as far as it holds them.
-void warm(const QString &text)
+/// What is measured beside the time, given out as counters: the median of the ratios to a memcpy, and the most memory
+/// that an operation held beyond its input and its result, in bytes a unit.
+class Measurements
 {
-    benchmark::DoNotOptimize(std::accumulate(text.utf16(), text.utf16() + text.size(), 0U));
-}
-
-void warm(const AttributedString &text)
-{
-    warm(text.string());
-}
-
-void warm(const std::unique_ptr<QTextDocument> &)
-{
-}
-
-/// Times `operation` on what `copy` makes of the text each time, beside a memcpy of the text. The counters: the medians
-/// of both as a ratio, and the most memory that the operation held beyond its input and its result, in bytes a unit.
-template <typename Copy, typename Function>
-void timed(benchmark::State &state, const QString &text, Copy copy, Function operation)
-{
-    std::vector<double> ratios;
-    std::size_t extra = 0;
-    for (auto _ : state) {
-        const double unit = secondsOfWarmMemcpy(text);
-        auto own = copy(text);
-        warm(own);
+public:
+    /// Times one call, whose text took `memcpySeconds` to copy.
+    template <typename Function>
+    void time(benchmark::State &state, double memcpySeconds, Function call)
+    {
         const PeakMemory memory;
         const Clock::time_point start = Clock::now();
-        benchmark::DoNotOptimize(operation(own));
+        call();
+        benchmark::ClobberMemory();
         const double seconds = secondsSince(start);
-        extra = std::max(extra, memory.beyondResult());
+        m_extra = std::max(m_extra, memory.beyondResult());
         state.SetIterationTime(seconds);
-        ratios.push_back(seconds / unit);
+        m_ratios.push_back(seconds / memcpySeconds);
     }
-    state.counters["memcpys"] = median(ratios);
-    state.counters["extra_bytes_per_unit"] = static_cast<double>(extra) / static_cast<double>(text.size());
-}
 
-QString ownCopy(const QString &text)
-{
-    QString copy = text;
-    copy.detach();
-    return copy;
-}
+    void report(benchmark::State &state, qsizetype length) const
+    {
+        state.counters["memcpys"] = median(m_ratios);
+        state.counters["extra_bytes_per_unit"] = static_cast<double>(m_extra) / static_cast<double>(length);
+    }
+
+private:
+    std::vector<double> m_ratios;
+    std::size_t m_extra = 0;
+};
 
 class Operation
 {
@@ -190,7 +173,14 @@ private:
             }
             const QString text = self.m_text(size);
             const RangeList ranges = self.m_ranges(text.size());
-            timed(state, text, ownCopy, [&](QString &own) { return operation(own, ranges); });
+            QString own;
+            RangeList found;
+            Measurements measurements;
+            for (auto _ : state) {
+                const double memcpySeconds = copyWarm(text, own);
+                measurements.time(state, memcpySeconds, [&] { found = operation(own, ranges); });
+            }
+            measurements.report(state, size);
         };
         benchmark::RegisterBenchmark(name.toUtf8().constData(), run)
             ->Iterations(iterations)
@@ -202,7 +192,7 @@ private:
     {
         const QString text = m_text(checkedSize);
         const RangeList ranges = m_ranges(text.size());
-        QString changed = ownCopy(text);
+        QString changed = text;
         std::u16string expected = text.toStdU16String();
         return operation(changed, ranges) == m_reference(expected, ranges) && changed.toStdU16String() == expected;
     }
@@ -416,42 +406,40 @@ std::unique_ptr<QTextDocument> styledDocument(const QString &text, std::size_t r
     return document;
 }
 
-void addAttributedText()
+/// Deletes 4,700 ranges from prose that `style` has put into 100,000 runs.
+template <typename Style, typename Deletion>
+void addAttributed(const QString &way, qsizetype size, int iterations, Style style, Deletion deleteRanges)
 {
-    constexpr std::size_t runs = 100'000;
-    const QString name = u"text/deleteCharactersInRanges, attributed, 100000 runs/%1/%2"_s;
-    for (qsizetype size = fullSize / 64; size <= fullSize; size *= 4) {
-        benchmark::RegisterBenchmark(name.arg(size).arg(u"kit"_s).toUtf8().constData(),
-                                     [size](benchmark::State &state) {
-                                         const QString text = texts::prose(size);
-                                         const RangeList ranges = texts::spread(size, scaled(4'700, size));
-                                         const auto copy = [&](const QString &own) {
-                                             return texts::styled(own, scaled(runs, size));
-                                         };
-                                         timed(state, text, copy, [&](AttributedString &own) {
-                                             Attributed::deleteCharactersInRanges(own, ranges);
-                                             return 0;
-                                         });
-                                     })
-            ->Iterations(15)
-            ->UseManualTime()
-            ->Unit(benchmark::kMicrosecond);
-    }
-    benchmark::RegisterBenchmark(name.arg(fullSize).arg(u"QTextCursor"_s).toUtf8().constData(),
-                                 [](benchmark::State &state) {
-                                     const QString text = texts::prose(fullSize);
-                                     const RangeList ranges = texts::spread(fullSize, 4'700);
-                                     const auto copy = [](const QString &own) {
-                                         return styledDocument(own, runs);
-                                     };
-                                     timed(state, text, copy, [&](std::unique_ptr<QTextDocument> &own) {
-                                         other::deleteRanges(*own, ranges);
-                                         return 0;
-                                     });
-                                 })
-        ->Iterations(2)
+    const QString name = u"text/deleteCharactersInRanges, attributed, 100000 runs/%1/%2"_s.arg(size).arg(way);
+    const auto run = [=](benchmark::State &state) {
+        const QString text = texts::prose(size);
+        const RangeList ranges = texts::spread(size, scaled(4'700, size));
+        QString copy;
+        Measurements measurements;
+        for (auto _ : state) {
+            auto own = style(text, scaled(100'000, size));
+            const double memcpySeconds = copyWarm(text, copy);
+            measurements.time(state, memcpySeconds, [&] { deleteRanges(own, ranges); });
+        }
+        measurements.report(state, size);
+    };
+    benchmark::RegisterBenchmark(name.toUtf8().constData(), run)
+        ->Iterations(iterations)
         ->UseManualTime()
         ->Unit(benchmark::kMicrosecond);
+}
+
+void addAttributedText()
+{
+    for (qsizetype size = fullSize / 64; size <= fullSize; size *= 4) {
+        addAttributed(u"kit"_s, size, 15, texts::styled, [](AttributedString &text, const RangeList &ranges) {
+            Attributed::deleteCharactersInRanges(text, ranges);
+        });
+    }
+    addAttributed(u"QTextCursor"_s, fullSize, 2, styledDocument,
+                  [](std::unique_ptr<QTextDocument> &document, const RangeList &ranges) {
+                      other::deleteRanges(*document, ranges);
+                  });
 }
 
 [[maybe_unused]] const bool registered = [] {

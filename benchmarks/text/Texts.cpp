@@ -155,7 +155,7 @@ AttributedString styled(const QString &text, std::size_t runs)
         stretches.append(
             {(index + 1) * length / runs - start, {{u"style"_s, index % 2 == 0 ? u"body"_s : u"strong"_s}}});
     }
-    return AttributedString::fromStretches(text, stretches);
+    return AttributedString::fromStretches(QString(text.constData(), text.size()), stretches); // no shared storage
 }
 
 Table html()
