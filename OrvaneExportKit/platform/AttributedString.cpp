@@ -2,6 +2,7 @@
 #include <OrvaneExportKit/platform/Exceptions.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace platform {
 
@@ -72,6 +73,21 @@ private:
     QVariantMap m_after;
     bool m_used = false;
 };
+
+/// Lets the list be changed without any more memory: it is shared with no other text then, and one that is empty has
+/// room for a run. `detach` and `reserve` of QList do not look whether they got memory.
+template <typename Run>
+void makeOwn(QList<Run> &runs)
+{
+    if (runs.isEmpty()) {
+        runs.resize(1);
+        runs.clear();
+    } else if (!runs.isDetached()) {
+        QList<Run> own;
+        own.append(runs);
+        runs = std::move(own);
+    }
+}
 
 } // namespace
 
@@ -205,11 +221,7 @@ void applyEdits(AttributedString &text, const TextEdits &edits)
     }
     requireEdits(edits, text.length());
     // All that may fail comes before the first change.
-    if (text.m_runs.isEmpty()) {
-        text.m_runs.reserve(1);
-    } else {
-        text.m_runs.detach();
-    }
+    makeOwn(text.m_runs);
     const std::size_t length = text.length();
     applyEdits(text.m_string, edits);
     if (length > 0) {
@@ -286,14 +298,14 @@ void AttributedString::appendRun(QList<Run> &runs, std::size_t start, const QVar
 
 void AttributedString::replaceRuns(qsizetype first, qsizetype count, const QList<Run> &replacements)
 {
+    makeOwn(m_runs);
     const qsizetype kept = std::min(count, replacements.size());
-    std::copy_n(replacements.begin(), kept, m_runs.begin() + first);
     if (replacements.size() < count) {
         m_runs.remove(first + kept, count - kept);
     } else if (replacements.size() > count) {
-        m_runs.insert(first + kept, replacements.size() - count, Run{});
-        std::copy(replacements.begin() + kept, replacements.end(), m_runs.begin() + first + kept);
+        m_runs.insert(first + kept, replacements.size() - count, Run{}); // before a run is changed, for it may throw
     }
+    std::copy(replacements.begin(), replacements.end(), m_runs.begin() + first);
 }
 
 } // namespace platform

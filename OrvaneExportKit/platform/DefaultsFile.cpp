@@ -105,10 +105,12 @@ QString lockProblem(const QLockFile &lock)
     }
 }
 
+/// Whether the lock was not made just now; one from the future was made before the clock was set back.
 bool isOld(const QLockFile &lock)
 {
     const QDateTime madeAt = QFileInfo(lock.fileName()).lastModified();
-    return madeAt.isValid() && madeAt.addDuration(abandonedLockAge) < QDateTime::currentDateTime();
+    const auto age = std::chrono::milliseconds(madeAt.msecsTo(QDateTime::currentDateTime()));
+    return madeAt.isValid() && (age > abandonedLockAge || age < -abandonedLockAge);
 }
 
 /// Waits for the lock. The waiting of `QLockFile` itself has pauses that soon get longer than a second, and would never
