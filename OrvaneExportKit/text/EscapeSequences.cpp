@@ -67,7 +67,9 @@ public:
             return;
         }
         makeGathered();
-        edit(platform::Replacements{units(from), units(to)});
+        if (platform::findLiteral(m_copy ? units(*m_copy) : units(m_given), units(from), 0) != platform::notFound) {
+            edit(platform::Replacements{units(from), units(to)});
+        }
     }
 
     QString result()

@@ -105,19 +105,28 @@ FoundEdits findDeletions(std::size_t length, const RangeList &sorted)
     return found;
 }
 
-template <typename Text>
-void deleteRanges(Text &text, const RangeList &ranges)
+/// Calls `disjoint` with the sorted ranges where they do not overlap, and `overlapping` where they do.
+template <typename Disjoint, typename Overlapping>
+void withSortedRanges(const RangeList &ranges, Disjoint disjoint, Overlapping overlapping)
 {
     if (platform::isAscendingAndDisjoint(ranges)) {
-        deleteDisjointRanges(text, ranges);
+        disjoint(ranges);
         return;
     }
     const RangeList sorted = sortedByLocation(ranges);
     if (platform::isAscendingAndDisjoint(sorted)) {
-        deleteDisjointRanges(text, sorted);
-        return;
+        disjoint(sorted);
+    } else {
+        overlapping(sorted);
     }
-    carryOut(text, findDeletions(units(text).size(), sorted));
+}
+
+template <typename Text>
+void deleteRanges(Text &text, const RangeList &ranges)
+{
+    withSortedRanges(
+        ranges, [&](const RangeList &sorted) { deleteDisjointRanges(text, sorted); },
+        [&](const RangeList &sorted) { carryOut(text, findDeletions(units(text).size(), sorted)); });
 }
 
 void encloseDisjointRanges(QString &text, const RangeList &ranges, std::u16string_view string)
@@ -125,6 +134,7 @@ void encloseDisjointRanges(QString &text, const RangeList &ranges, std::u16strin
     requireLastRange("encloseRanges", ranges, units(text).size());
     RangeWalk walk(ranges);
     platform::editAtOnce(text, [&](std::u16string_view given, std::size_t, std::size_t until, TextEdits &edits) {
+        edits.reserve(2 * ranges.size());
         return walk(given.size(), until, [&](const Range &range) {
             edits.push_back({{range.location, 0}, string});
             edits.push_back({{range.end(), 0}, string});
@@ -250,13 +260,12 @@ void deleteCharactersInRanges(QString &text, const RangeList &ranges)
 void encloseRanges(QString &text, const RangeList &ranges, QStringView string)
 {
     const std::u16string copy(units(string)); // it may view the very text that is changed
-    const RangeList sorted = sortedByLocation(ranges);
-    if (platform::isAscendingAndDisjoint(sorted)) {
-        encloseDisjointRanges(text, sorted, copy);
-        return;
-    }
-    std::vector<char16_t> inserted;
-    carryOut(text, findOverlappingEnclosures(units(text).size(), sorted, copy, inserted));
+    withSortedRanges(
+        ranges, [&](const RangeList &sorted) { encloseDisjointRanges(text, sorted, copy); },
+        [&](const RangeList &sorted) {
+            std::vector<char16_t> inserted;
+            carryOut(text, findOverlappingEnclosures(units(text).size(), sorted, copy, inserted));
+        });
 }
 
 } // namespace KZMutableStringExportAdditions

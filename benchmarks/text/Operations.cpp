@@ -3,9 +3,9 @@
 // step-by-step version before it is timed.
 
 #include "OtherWays.h"
-#include "PeakMemory.h"
 #include "PlainWays.h"
 #include "Texts.h"
+#include "Timing.h"
 
 #include <tests/reference/EscapeSequences.h>
 #include <tests/reference/LineLayout.h>
@@ -18,9 +18,6 @@
 
 #include <QtGui/QTextCursor>
 
-#include <chrono>
-#include <cstring>
-
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
@@ -31,7 +28,7 @@ namespace Plain = KZMutableStringExportAdditions;
 namespace Attributed = KZMutableAttributedStringExportAdditions;
 namespace Questions = KZStringExportAdditions;
 
-constexpr qsizetype fullSize = 4 * 1024 * 1024;
+constexpr qsizetype fullSize = timing::fullSize;
 constexpr qsizetype checkedSize = 20'000;
 
 /// What changes a text, at given ranges if it takes them, or finds ranges in it.
@@ -75,64 +72,6 @@ RangeList noRanges(qsizetype)
     return {};
 }
 
-using Clock = std::chrono::steady_clock;
-
-double secondsSince(Clock::time_point start)
-{
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-double median(std::vector<double> values)
-{
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
-/// Copies the text into the storage of `own`, twice, and returns the seconds of the second time: one warm memcpy.
-double copyWarm(const QString &text, QString &own)
-{
-    own.resize(text.size());
-    const auto bytes = static_cast<std::size_t>(text.size()) * sizeof(char16_t);
-    Clock::time_point start;
-    for (int round = 0; round < 2; ++round) {
-        start = Clock::now();
-        std::memcpy(own.data(), text.constData(), bytes);
-        benchmark::ClobberMemory();
-    }
-    return secondsSince(start);
-}
-
-/// What is measured beside the time, given out as counters: the median of the ratios to a memcpy, and the most memory
-/// that an operation held beyond its input and its result, in bytes a unit.
-class Measurements
-{
-public:
-    /// Times one call, whose text took `memcpySeconds` to copy.
-    template <typename Function>
-    void time(benchmark::State &state, double memcpySeconds, Function call)
-    {
-        const PeakMemory memory;
-        const Clock::time_point start = Clock::now();
-        call();
-        benchmark::ClobberMemory();
-        const double seconds = secondsSince(start);
-        m_extra = std::max(m_extra, memory.beyondResult());
-        state.SetIterationTime(seconds);
-        m_ratios.push_back(seconds / memcpySeconds);
-    }
-
-    void report(benchmark::State &state, qsizetype length) const
-    {
-        state.counters["memcpys"] = median(m_ratios);
-        state.counters["extra_bytes_per_unit"] = static_cast<double>(m_extra) / static_cast<double>(length);
-    }
-
-private:
-    std::vector<double> m_ratios;
-    std::size_t m_extra = 0;
-};
-
 class Operation
 {
 public:
@@ -175,9 +114,9 @@ private:
             const RangeList ranges = self.m_ranges(text.size());
             QString own;
             RangeList found;
-            Measurements measurements;
+            timing::Measurements measurements;
             for (auto _ : state) {
-                const double memcpySeconds = copyWarm(text, own);
+                const double memcpySeconds = timing::copyWarm(text, own);
                 measurements.time(state, memcpySeconds, [&] { found = operation(own, ranges); });
             }
             measurements.report(state, size);
@@ -415,10 +354,10 @@ void addAttributed(const QString &way, qsizetype size, int iterations, Style sty
         const QString text = texts::prose(size);
         const RangeList ranges = texts::spread(size, scaled(4'700, size));
         QString copy;
-        Measurements measurements;
+        timing::Measurements measurements;
         for (auto _ : state) {
             auto own = style(text, scaled(100'000, size));
-            const double memcpySeconds = copyWarm(text, copy);
+            const double memcpySeconds = timing::copyWarm(text, copy);
             measurements.time(state, memcpySeconds, [&] { deleteRanges(own, ranges); });
         }
         measurements.report(state, size);
