@@ -11,6 +11,7 @@ if(ORVANE_BUILD_FUZZERS)
         message(FATAL_ERROR "ORVANE_BUILD_FUZZERS needs Clang")
     endif()
     add_compile_options(-fsanitize=fuzzer-no-link)
+    add_compile_definitions(FUZZING_BUILD_MODE_UNSAFE_FOR_PRODUCTION)
 endif()
 
 function(orvane_compile target)

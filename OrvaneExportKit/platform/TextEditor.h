@@ -46,7 +46,11 @@ private:
 std::size_t growthByEdits(const TextEdits &edits);
 
 /// How many units are searched before what was found in them is edited: few enough to be still in the cache.
+#if defined(FUZZING_BUILD_MODE_UNSAFE_FOR_PRODUCTION)
+inline constexpr std::size_t unitsEditedAtOnce = 64; // short inputs are to reach over the ends of blocks
+#else
 inline constexpr std::size_t unitsEditedAtOnce = 1 << 14;
+#endif
 
 /// Edits the text a block at a time. `find(text, from, until, edits)` appends the edits that begin from `from` to
 /// before `until`, those at the very end of the text included, and returns from where the next call goes on, `until` or

@@ -50,10 +50,10 @@ inline EightUnits isWithin(EightUnits units, char16_t first, char16_t last)
 }
 #endif
 
-/// Whether the unit lies from `first` to `last`.
-constexpr bool isWithin(char16_t unit, char16_t first, char16_t last)
+/// 1 when the unit lies from `first` to `last`, else 0: an answer that `|` joins with others, as it does those above.
+constexpr unsigned isWithin(char16_t unit, char16_t first, char16_t last)
 {
-    return first <= unit && unit <= last;
+    return first <= unit && unit <= last ? 1 : 0;
 }
 
 /// The kind of units that equal one of a few.
@@ -86,12 +86,15 @@ public:
         char16_t last;
     };
 
-    constexpr AsciiSieve(const std::array<Bounds, count> &ranges, bool withOthers) : m_ranges(ranges), m_withOthers(withOthers) {}
+    constexpr AsciiSieve(const std::array<Bounds, count> &ranges, bool withOthers)
+        : m_ranges(ranges), m_withOthers(withOthers)
+    {
+    }
 
     bool operator()(char16_t unit) const
     {
         const auto holdsUnit = [unit](const Bounds &range) {
-            return isWithin(unit, range.first, range.last);
+            return isWithin(unit, range.first, range.last) != 0;
         };
         return unit >= 0x7F ? m_withOthers : std::any_of(m_ranges.begin(), m_ranges.end(), holdsUnit);
     }

@@ -46,7 +46,7 @@ void expectTheSameMasks(const Kind &kind)
         const std::size_t start = random() % 8;
         const platform::UnitMask expected = platform::plainMask(text.data() + start, platform::maskedUnits, kind);
         EXPECT_EQ(platform::fullMask(text.data() + start, kind), expected);
-        for (const std::size_t count : {0, 1, 7, 15, 16, 17, 31, 32, 47, 48, 63}) {
+        for (const unsigned count : {0U, 1U, 7U, 15U, 16U, 17U, 31U, 32U, 47U, 48U, 63U}) {
             EXPECT_EQ(platform::partialMask(text.data() + start, count, kind),
                       expected & ((platform::UnitMask{1} << count) - 1));
         }
