@@ -9,7 +9,7 @@ file(RENAME "${WORK_FOLDER}/first-place" "${kit}")
 
 # Fails unless CMake refuses a version or a component of the package with this message.
 function(require_refusal version component message)
-    configuration(components "-DVERSION=${version}" "-DCOMPONENT=${component}")
+    configuration(components "${WORK_FOLDER}/components" "-DVERSION=${version}" "-DCOMPONENT=${component}")
     execute_process(COMMAND ${configure} RESULT_VARIABLE result OUTPUT_QUIET ERROR_VARIABLE errors)
     string(REGEX REPLACE "[ \n]+" " " errors "${errors}")
     string(FIND "${errors}" "${message}" place)

@@ -21,16 +21,16 @@ if(SANITIZE)
     set(flags "-fsanitize=address,undefined")
 endif()
 
-# Sets `configure` to the command that configures a project of this folder; options may follow.
-macro(configuration name)
-    set(configure "${CMAKE_COMMAND}" -S "${CMAKE_CURRENT_LIST_DIR}/${name}" -B "${WORK_FOLDER}/${name}" -G "${GENERATOR}"
+# Sets `configure` to the command that configures a project of this folder in a build folder; options may follow.
+macro(configuration name folder)
+    set(configure "${CMAKE_COMMAND}" -S "${CMAKE_CURRENT_LIST_DIR}/${name}" -B "${folder}" -G "${GENERATOR}"
         "-DCMAKE_CXX_COMPILER=${COMPILER}" "-DCMAKE_BUILD_TYPE=${BUILD_TYPE}" "-DCMAKE_CXX_FLAGS=${flags}"
         "-DCMAKE_PREFIX_PATH=${kit}\;${QT_PREFIX}" ${ARGN})
 endmacro()
 
 # Configures and builds a project of this folder against the kit that is installed in the folder `kit`.
 function(build_project name)
-    configuration("${name}")
+    configuration("${name}" "${WORK_FOLDER}/${name}")
     run(${configure})
     run("${CMAKE_COMMAND}" --build "${WORK_FOLDER}/${name}")
 endfunction()
