@@ -18,6 +18,7 @@ class ORVANE_KIT_EXPORT KZContentView : public QWidget
     Q_OBJECT
 
 public:
+    /// An empty view.
     explicit KZContentView(QWidget *parent = nullptr);
     ~KZContentView() override;
 

@@ -14,7 +14,7 @@ namespace platform {
 
 /// What a notification center tells its observers.
 struct Notification {
-    QString name;
+    QString name;          ///< what has happened, as observers ask for it
     const QObject *object; ///< who posted it; null for nobody in particular
 };
 
@@ -42,6 +42,7 @@ private:
 class ORVANE_CORE_EXPORT NotificationCenter
 {
 public:
+    /// What an observer does with a notification.
     using Handler = std::function<void(const Notification &)>;
 
     /// The one of the application.

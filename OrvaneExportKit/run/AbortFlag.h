@@ -18,6 +18,7 @@ public:
     AbortFlag(const AbortFlag &) = delete;
     AbortFlag &operator=(const AbortFlag &) = delete;
 
+    /// Whether the user has asked to stop.
     bool isSet() const { return m_isSet; }
 
 private:

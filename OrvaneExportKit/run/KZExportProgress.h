@@ -66,8 +66,13 @@ public:
     /// Advances the bar by one step and redraws it. Does nothing at all when the last step has been taken.
     void incrementToNextStep();
 
+    /// The sheet itself, which the object owns.
     windowing::Panel *progressPanel() const { return m_progressPanel.get(); }
+
+    /// The steps that have been taken.
     quint32 currentStep() const { return m_currentStep; }
+
+    /// The steps of the whole run.
     quint32 maxSteps() const { return m_maxSteps; }
 
 private:

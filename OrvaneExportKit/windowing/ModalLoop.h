@@ -43,6 +43,7 @@ public:
     /// Lets the other windows take input again.
     virtual void end();
 
+    /// Whether the session has not ended.
     bool isOpen() const;
 
 private:
@@ -68,6 +69,7 @@ class ORVANE_KIT_EXPORT ModalLoop : public QObject
     Q_OBJECT
 
 public:
+    /// What is called when a sheet has ended, with the code that it ended with.
     using SheetDidEnd = std::function<void(qint32 returnCode)>;
 
     /// The result of a loop that was stopped without an answer.

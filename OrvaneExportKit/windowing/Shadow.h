@@ -18,6 +18,7 @@ struct Shadow {
     /// How far the shadow's edge blurs to either side, 0 or more.
     double blurRadius = 0.0;
 
+    /// Black, a third of it opaque, at first.
     QColor color = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 1.0F / 3.0F);
 
     friend bool operator==(const Shadow &, const Shadow &) = default;
