@@ -1,4 +1,4 @@
-"""Shows Doxygen a header as its readers understand it: filter.py TOPICS.dox HEADER.h
+"""Writes the headers for Doxygen as readers understand them: prepare.py TOPICS.dox FOLDER HEADER...
 
 A comment holds for all declarations below it, up to an empty line or the next comment, and that of a group (`\\name`)
 for each of its members. An override without a comment does what is said where it was declared first, and a defaulted
@@ -75,11 +75,13 @@ def shown(lines, topic):
 
 def main():
     topics = pathlib.Path(sys.argv[1]).read_text(encoding="utf-8")
-    path = pathlib.Path(sys.argv[2])
-    topic = topic_of(path.as_posix().rpartition("/OrvaneExportKit/")[2], topics)
-    text = path.read_text(encoding="utf-8")
-    text = text.replace("/// \\file\n", f"/// \\addtogroup {topic}\n", 1)
-    print("\n".join(shown(text.splitlines(), topic)))
+    for header in map(pathlib.Path, sys.argv[3:]):
+        name = header.as_posix().rpartition("/OrvaneExportKit/")[2]
+        topic = topic_of(name, topics)
+        text = header.read_text(encoding="utf-8").replace("/// \\file\n", f"/// \\addtogroup {topic}\n", 1)
+        prepared = pathlib.Path(sys.argv[2], "OrvaneExportKit", name)
+        prepared.parent.mkdir(parents=True, exist_ok=True)
+        prepared.write_text("\n".join(shown(text.splitlines(), topic)) + "\n", encoding="utf-8")
 
 
 main()
