@@ -36,7 +36,7 @@ private:
 /// Passes notifications from those who post them to those who observe them, without the two knowing each other.
 ///
 ///     const platform::Observation observation = platform::NotificationCenter::defaultCenter().addObserver(
-///         KZAbortExportNotification, &progress, [&](const platform::Notification &) { stop(); });
+///         KZAbortExportNotification, progressSheet, [&](const platform::Notification &) { stop(); });
 ///
 /// For use on the application's main thread.
 class ORVANE_CORE_EXPORT NotificationCenter

@@ -23,9 +23,9 @@
 ///     KZExportProgress progress(documentWindow, static_cast<qint32>(documents.size()));
 ///     const platform::AbortFlag abort(progress);
 ///     progress.showSheet();
-///     for (std::size_t i = 0; i < documents.size() && !abort.isSet(); ++i) {
-///         progress.setDocumentName(documents[i].name());
-///         write(documents[i]);
+///     for (qsizetype i = 0; i < documents.size() && !abort.isSet(); ++i) {
+///         progress.setDocumentName(documents[i]->name());
+///         write(*documents[i]);
 ///         progress.incrementToNextStep();
 ///     }
 ///     progress.hideSheet();

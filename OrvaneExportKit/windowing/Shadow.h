@@ -27,7 +27,7 @@ struct Shadow {
 /// Draws the shadow that a filled rectangle throws, without the rectangle, in the pixels of the device. The painter may
 /// be scaled, but not turned.
 ///
-///     drawShadow(painter, paper, {QSizeF(0.0, -2.5), 4.0});   // 2.5 units below the paper
+///     drawShadow(*painter, paper, {QSizeF(0.0, -2.5), 4.0});   // 2.5 units below the paper
 ORVANE_KIT_EXPORT void drawShadow(QPainter &painter, const QRectF &rectangle, const Shadow &shadow);
 
 } // namespace windowing
