@@ -61,7 +61,8 @@ def shown(lines, topic):
         if not comment and LEFT_OUT.search(code):
             continue
         yield from comment
-        if shared and (begins_group or not comment) and not re.match(r"$|}|" + MACRO.pattern, code) and "///<" not in code:
+        is_bare = (begins_group or not comment) and "///<" not in code
+        if is_bare and shared and not re.match(r"$|}|" + MACRO.pattern, code):
             yield ""
             yield from shared
         if (shared or "///<" in code) and re.match(r"\w|#define| +(class|struct) ", declaration[0]):

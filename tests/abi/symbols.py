@@ -32,7 +32,7 @@ def main():
         path.write_text("\n".join(now) + "\n", encoding="utf-8")
         return
     before = path.read_text(encoding="utf-8").splitlines()
-    changes = [line for line in difflib.unified_diff(before, now, lineterm="", n=0) if line[:2] not in ("--", "++", "@@")]
+    changes = [line for line in difflib.ndiff(before, now) if line[0] in "-+"]
     if changes:
         print("\n".join(changes))
         sys.exit(f"{len(changes)} exported symbols went (-) or came (+). docs/stability.md says what may change when.\n"

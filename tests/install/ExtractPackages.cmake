@@ -1,5 +1,5 @@
-# Run by CTest with the definitions that CMakeLists.txt passes: makes Debian's packages of the build, and uses what is in
-# them. `scripts/package.sh --try` installs them with apt.
+# Run by CTest with the definitions that CMakeLists.txt passes: makes Debian's packages of the build, and uses what is
+# in them. `scripts/package.sh --try` installs them with apt.
 include("${CMAKE_CURRENT_LIST_DIR}/Steps.cmake")
 
 file(REMOVE_RECURSE "${WORK_FOLDER}")
