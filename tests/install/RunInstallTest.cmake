@@ -30,6 +30,17 @@ if(WITH_WINDOWS)
     run("${CMAKE_COMMAND}" -E env QT_QPA_PLATFORM=offscreen "${WORK_FOLDER}/windows/kit-with-windows")
 endif()
 
+# By Qt Designer, whose plug-in finds the libraries of its own kit.
+if(WITH_DESIGNER)
+    run(ldd "${kit}/${LIBRARY_FOLDER}/qt6/plugins/designer/libOrvaneExportKitDesigner.so")
+    foreach(library IN ITEMS OrvaneExportKit OrvaneExportKitCore)
+        string(FIND "${output}" "lib${library}.so.1 => ${kit}/" place)
+        if(place EQUAL -1)
+            message(FATAL_ERROR "The plug-in for Qt Designer does not find ${library} beside it:\n${output}")
+        endif()
+    endforeach()
+endif()
+
 # By pkg-config.
 function(make target)
     run("${CMAKE_COMMAND}" -E env "PKG_CONFIG_PATH=${kit}/${LIBRARY_FOLDER}/pkgconfig" "CXX=${COMPILER}"
