@@ -7,6 +7,9 @@
 
 #include <benchmark/benchmark.h>
 
+#include <string>
+#include <utility>
+
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
@@ -31,7 +34,7 @@ QVariant text()
 {
     QList<AttributedString::Stretch> stretches;
     for (int i = 0; i < many; ++i) {
-        stretches.append({10, {{u"style"_s, i % 7}, {u"language"_s, u"en"_s}}});
+        stretches.append({10, {{u"style"_s, qint64{i % 7}}, {u"language"_s, u"en"_s}}});
     }
     return QVariant::fromValue(AttributedString::fromStretches(QString(10 * many, u'x'), stretches));
 }
@@ -54,6 +57,9 @@ void writePropertyList(benchmark::State &state, const QVariant &value)
 void readArchive(benchmark::State &state, const QVariant &value)
 {
     const QByteArray data = KeyedArchiver::archivedDataWithRootObject(value);
+    if (KeyedUnarchiver::unarchiveObjectWithData(data) != value) {
+        state.SkipWithError("what was read is not what was written");
+    }
     for (auto _ : state) {
         benchmark::DoNotOptimize(KeyedUnarchiver::unarchiveObjectWithData(data));
     }
@@ -68,15 +74,15 @@ void readPropertyList(benchmark::State &state, const QVariant &value)
 }
 
 [[maybe_unused]] const bool registered = [] {
-    for (const auto &[name, value] : {std::pair("strings", strings()), std::pair("text", text())}) {
-        const auto add = [&name = name, &value = value](const std::string &operation, auto function) {
-            benchmark::RegisterBenchmark((operation + "/" + name).c_str(), function, value)
-                ->Unit(benchmark::kMillisecond);
+    for (const auto &[name, value] : {std::pair("100000 strings", strings()), std::pair("100000 styles", text())}) {
+        const auto add = [&name = name, &value = value](const std::string &operation, const char *way, auto function) {
+            const std::string benchmark = "archives/" + operation + ' ' + name + '/' + way;
+            benchmark::RegisterBenchmark(benchmark.c_str(), function, value)->Unit(benchmark::kMillisecond);
         };
-        add("write/keyedArchive", writeArchive);
-        add("write/itsPropertyList", writePropertyList);
-        add("read/keyedArchive", readArchive);
-        add("read/itsPropertyList", readPropertyList);
+        add("write", "kit", writeArchive);
+        add("write", "its property list", writePropertyList);
+        add("read", "kit", readArchive);
+        add("read", "its property list", readPropertyList);
     }
     return true;
 }();

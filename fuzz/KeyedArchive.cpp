@@ -1,5 +1,7 @@
 // Unarchives the input, walks all that is in it, archives it again and requires that the second archive holds the same.
 
+#include <fuzz/Require.h>
+
 #include <OrvaneExportKit/platform/ArchivedTypes.h>
 #include <OrvaneExportKit/platform/AttributedString.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
@@ -12,8 +14,6 @@
 #include <QtCore/QUrl>
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 
 namespace {
 
@@ -128,14 +128,6 @@ private:
     QList<KeyedObject> m_objects;
     int m_valuesLeft = 500;
 };
-
-void require(bool condition, const char *complaint)
-{
-    if (!condition) {
-        std::fprintf(stderr, "%s\n", complaint);
-        std::abort();
-    }
-}
 
 /// The archive of an object; empty for one that is refused, because fields that no class reads are malformed or hold
 /// what property lists are not written with.

@@ -6,7 +6,7 @@ build_packages=(build-essential cmake ninja-build ccache
 test_packages=(libgtest-dev clang libclang-rt-14-dev clang-format clang-tidy python3
                doxygen dpkg-dev pkgconf tidy texlive-latex-base
                xvfb openbox xdotool imagemagick fonts-dejavu-core)
-bench_packages=(libbenchmark-dev)
+bench_packages=(libbenchmark-dev pkg-config libplist-dev libpcre2-dev libicu-dev python3)
 
 # Installs those of the given packages that are not there; asks for the password of sudo where it is needed.
 install_packages() {

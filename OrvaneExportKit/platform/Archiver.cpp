@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <limits>
 #include <new>
 
 namespace platform {
@@ -30,10 +31,13 @@ enum class Kind : quint8 {
     Typed,
 };
 
-/// Whether values of the type can hold values of any type, which would bring back the nesting that is limited here.
-bool holdsAnything(const QByteArray &typeName)
+/// Whether the type is one that holds values of any type, which would bring back the nesting that is limited here, or
+/// one of Qt's own whose stream operator trusts what it reads: a count, the name of a plug-in, a function's address.
+bool isUnsafe(const QByteArray &typeName)
 {
-    return typeName.contains("QVariant");
+    constexpr std::array names{"QVariant", "QTextFormat", "QPolygon",    "QPainterPath",
+                               "QRegion",  "QIcon",       "QEasingCurve"};
+    return std::any_of(names.begin(), names.end(), [&](const char *name) { return typeName.contains(name); });
 }
 
 /// Archives have the least significant byte first, whatever the machine does.
@@ -55,6 +59,9 @@ public:
 
     void append(const Writer &other)
     {
+        if (other.m_data.size() > std::numeric_limits<int>::max()) {
+            throw InvalidArgumentException("encodeObject: a value takes more than 2147483647 bytes");
+        }
         m_stream.writeRawData(other.m_data.constData(), static_cast<int>(other.m_data.size()));
     }
 
@@ -103,7 +110,7 @@ private:
         QByteArray bytes;
         QDataStream stream(&bytes, QIODevice::WriteOnly);
         stream.setVersion(streamVersion);
-        if (!value.isValid() || holdsAnything(value.typeName()) || !value.metaType().save(stream, value.constData())) {
+        if (!value.isValid() || isUnsafe(value.typeName()) || !value.metaType().save(stream, value.constData())) {
             throw InvalidArgumentException(std::string("encodeObject: a value of type ") +
                                            (value.isValid() ? value.typeName() : "nothing") + " cannot be archived");
         }
@@ -232,7 +239,7 @@ private:
         m_stream >> typeName >> bytes;
         requireSound();
         const QMetaType type = QMetaType::fromName(typeName);
-        if (!type.isValid() || holdsAnything(typeName)) {
+        if (!type.isValid() || isUnsafe(typeName)) {
             fail("the type `" + typeName.toStdString() + "` is not known");
         }
         QVariant value(type);

@@ -23,8 +23,10 @@ namespace platform {
 ///     const QByteArray data = archiver.archivedData();
 ///
 /// Writing throws `InvalidArgumentException` when a value, or one inside it, is of a type without stream operators or
-/// of another container of `QVariant` than a list or a map; when lists and maps are nested more than 512 deep; and
-/// when a value inside a list or a map is nothing.
+/// of another container of `QVariant` than a list or a map; of a type that Qt cannot read from data that may be
+/// hostile (`QEasingCurve`, `QIcon`, `QPainterPath`, `QPolygon`, `QPolygonF`, `QRegion`, `QTextFormat`); when lists and
+/// maps are nested more than 512 deep; when one value takes more than 2147483647 bytes; and when a value inside a list
+/// or a map is nothing.
 class ORVANE_CORE_EXPORT Archiver final : public Coder
 {
 public:
@@ -54,7 +56,8 @@ class ORVANE_CORE_EXPORT Unarchiver final : public Coder
 {
 public:
     /// The value of an archive of one value. Data that is no such archive, is cut short, goes on behind its end, claims
-    /// sizes that it does not have or holds a type that this program does not know gives an invalid `QVariant`.
+    /// sizes that it does not have or holds a type that this program does not know or does not archive gives an invalid
+    /// `QVariant`.
     static QVariant unarchiveObjectWithData(const QByteArray &data);
 
     /// Opens an archive. Throws `ArchiveException` when the data is none; so do the operations that find another field

@@ -2,6 +2,7 @@
 #include <OrvaneExportKit/platform/Exceptions.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace platform {
 
@@ -72,6 +73,21 @@ private:
     QVariantMap m_after;
     bool m_used = false;
 };
+
+/// Lets the list be changed without any more memory: it is shared with no other text then, and one that is empty has
+/// room for a run. `detach` and `reserve` of QList do not look whether they got memory.
+template <typename Run>
+void makeOwn(QList<Run> &runs)
+{
+    if (runs.isEmpty()) {
+        runs.resize(1);
+        runs.clear();
+    } else if (!runs.isDetached()) {
+        QList<Run> own;
+        own.append(runs);
+        runs = std::move(own);
+    }
+}
 
 } // namespace
 
@@ -200,22 +216,27 @@ bool operator==(const AttributedString &a, const AttributedString &b)
 
 void applyEdits(AttributedString &text, const TextEdits &edits)
 {
+    if (edits.empty()) {
+        return;
+    }
     requireEdits(edits, text.length());
-    QList<AttributedString::Run> moved = text.runsAfterEdits(edits);
+    // All that may fail comes before the first change.
+    makeOwn(text.m_runs);
+    const std::size_t length = text.length();
     applyEdits(text.m_string, edits);
-    text.m_runs.swap(moved);
+    if (length > 0) {
+        text.moveRuns(edits, length);
+    } else if (!text.m_string.isEmpty()) {
+        text.m_runs.append(AttributedString::Run{0, {}});
+    }
 }
 
-QList<AttributedString::Run> AttributedString::runsAfterEdits(const TextEdits &edits) const
+/// Moves the runs to where they begin after the edits of a text of `length` units, and drops those that become empty.
+///
+/// New units belong to the run of the first unit that they replace, or to the one before them when they replace none,
+/// so a run starts behind all edits that begin before it.
+void AttributedString::moveRuns(const TextEdits &edits, std::size_t length)
 {
-    if (m_runs.isEmpty()) {
-        const auto insertsNothing = [](const TextEdit &edit) {
-            return edit.replacement.empty();
-        };
-        return std::all_of(edits.begin(), edits.end(), insertsNothing) ? m_runs : QList<Run>{Run{0, {}}};
-    }
-    // New units belong to the run of the first unit that they replace, or to the one before them when they replace
-    // none, so a run starts behind all edits that begin before it.
     auto edit = edits.begin();
     std::size_t editsEnd = 0;
     std::size_t shift = 0; // modulo the word size, so that it may stand for less than nothing
@@ -228,19 +249,29 @@ QList<AttributedString::Run> AttributedString::runsAfterEdits(const TextEdits &e
         }
         return std::max(start, editsEnd) + shift;
     };
-    QList<Run> moved;
-    moved.reserve(m_runs.size());
-    for (const Run &run : m_runs) {
-        const std::size_t start = run.start == 0 ? 0 : startAfterEdits(run.start);
-        if (!moved.isEmpty() && moved.last().start == start) {
-            moved.removeLast();
+    qsizetype kept = 0; // how many runs stay
+    bool wereNeighbours = false;
+    Run *const runs = m_runs.data();
+    for (qsizetype index = 0; index < m_runs.size(); ++index) {
+        const std::size_t start = index == 0 ? 0 : startAfterEdits(runs[index].start);
+        if (kept > 0 && runs[kept - 1].start == start) {
+            --kept;
+            wereNeighbours = false;
         }
-        appendRun(moved, start, run.attributes);
+        if (!wereNeighbours && kept > 0 && identical(runs[kept - 1].attributes, runs[index].attributes)) {
+            continue;
+        }
+        if (kept != index) {
+            runs[kept].attributes.swap(runs[index].attributes);
+        }
+        runs[kept].start = start;
+        ++kept;
+        wereNeighbours = true;
     }
-    if (moved.last().start == startAfterEdits(length())) {
-        moved.removeLast();
+    if (runs[kept - 1].start == startAfterEdits(length)) {
+        --kept;
     }
-    return moved;
+    m_runs.resize(kept);
 }
 
 /// The run of the unit at `index`; at the end of the text the last one.
@@ -267,14 +298,14 @@ void AttributedString::appendRun(QList<Run> &runs, std::size_t start, const QVar
 
 void AttributedString::replaceRuns(qsizetype first, qsizetype count, const QList<Run> &replacements)
 {
+    makeOwn(m_runs);
     const qsizetype kept = std::min(count, replacements.size());
-    std::copy_n(replacements.begin(), kept, m_runs.begin() + first);
     if (replacements.size() < count) {
         m_runs.remove(first + kept, count - kept);
     } else if (replacements.size() > count) {
-        m_runs.insert(first + kept, replacements.size() - count, Run{});
-        std::copy(replacements.begin() + kept, replacements.end(), m_runs.begin() + first + kept);
+        m_runs.insert(first + kept, replacements.size() - count, Run{}); // before a run is changed, for it may throw
     }
+    std::copy(replacements.begin(), replacements.end(), m_runs.begin() + first);
 }
 
 } // namespace platform

@@ -93,7 +93,7 @@ private:
 
     qsizetype runHolding(std::size_t index) const;
     std::size_t runEnd(qsizetype run) const;
-    QList<Run> runsAfterEdits(const TextEdits &edits) const;
+    void moveRuns(const TextEdits &edits, std::size_t length);
     static void appendRun(QList<Run> &runs, std::size_t start, const QVariantMap &attributes);
     void replaceRuns(qsizetype first, qsizetype count, const QList<Run> &replacements);
 

@@ -3,7 +3,6 @@
 #include <OrvaneExportKit/platform/PropertyListError.h>
 
 #include <algorithm>
-#include <limits>
 #include <optional>
 
 namespace platform {
@@ -12,7 +11,7 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-constexpr QStringView tooLong = u"this object is longer than the room that it has";
+constexpr char16_t tooLong[] = u"this object is longer than the room that it has";
 
 BinaryType typeOf(quint8 marker)
 {
@@ -182,32 +181,9 @@ bool fitsBytes(quint64 number, quint64 size)
     return size >= sizeof number || number >> (8 * size) == 0;
 }
 
-quint64 unsignedNumber(QByteArrayView bytes)
-{
-    const qsizetype excess = std::max<qsizetype>(bytes.size() - static_cast<qsizetype>(sizeof(quint64)), 0);
-    const auto isZero = [](char byte) {
-        return byte == 0;
-    };
-    if (!std::all_of(bytes.begin(), bytes.begin() + excess, isZero)) {
-        return std::numeric_limits<quint64>::max();
-    }
-    quint64 number = 0;
-    for (const char byte : bytes.sliced(excess)) {
-        number = number << 8 | static_cast<quint8>(byte);
-    }
-    return number;
-}
-
 void failAtByte(quint64 position, QStringView complaint)
 {
     throw PropertyListError{u"byte %1: %2"_s.arg(position).arg(complaint)};
-}
-
-void requireAtByte(bool condition, quint64 position, QStringView complaint)
-{
-    if (!condition) {
-        failAtByte(position, complaint);
-    }
 }
 
 } // namespace platform

@@ -5,6 +5,7 @@
 #include <QtCore/QByteArrayView>
 #include <QtCore/QString>
 
+#include <limits>
 #include <vector>
 
 namespace platform {
@@ -61,12 +62,28 @@ bool isContainer(BinaryType type);
 bool fitsBytes(quint64 number, quint64 size);
 
 /// The unsigned number of any length that the bytes make up; the largest one when it has more than 64 bits.
-quint64 unsignedNumber(QByteArrayView bytes);
+inline quint64 unsignedNumber(QByteArrayView bytes)
+{
+    quint64 number = 0;
+    for (const char byte : bytes) {
+        if (number >> 56 != 0) {
+            return std::numeric_limits<quint64>::max();
+        }
+        number = number << 8 | static_cast<quint8>(byte);
+    }
+    return number;
+}
 
 /// Throws a `PropertyListError` with this place and complaint.
 [[noreturn]] void failAtByte(quint64 position, QStringView complaint);
 
-/// Throws it unless the condition holds.
-void requireAtByte(bool condition, quint64 position, QStringView complaint);
+/// Throws it unless the condition holds. Takes a plain pointer, for even the length of a complaint is worth no time
+/// where there is none.
+inline void requireAtByte(bool condition, quint64 position, const char16_t *complaint)
+{
+    if (!condition) {
+        failAtByte(position, complaint);
+    }
+}
 
 } // namespace platform

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace platform {
@@ -173,8 +174,10 @@ QVariant Reader::readDictionary(Loaded &container, const BinaryObject &object, i
         const QVariant &key = loadInside(container, object, i, containers);
         requireAtByte(key.typeId() == QMetaType::QString, object.position, u"a key of this dictionary is not a string");
         const QVariant &value = loadInside(container, object, object.count + i, containers);
-        if (!entries.contains(key.toString())) {
-            entries.insert(key.toString(), value);
+        const QString name = key.toString();
+        const auto place = std::as_const(entries).lowerBound(name);
+        if (place == entries.cend() || place.key() != name) {
+            entries.insert(place, name, value);
         }
     }
     return entries;

@@ -5,25 +5,21 @@
 #include <OrvaneExportKit/platform/PropertyListValues.h>
 
 #include <QtCore/QDateTime>
-#include <QtCore/QHash>
 
 #include <algorithm>
 #include <bit>
+#include <functional>
 #include <limits>
-#include <utility>
+#include <string>
+#include <string_view>
+#include <unordered_set>
 #include <vector>
 
 namespace platform {
 
 namespace {
 
-/// What an object consists of: its bytes up to the references, and the indices of the objects that it refers to.
-struct Object {
-    QByteArray start;
-    std::vector<quint64> references;
-};
-
-void appendUnsigned(QByteArray &bytes, quint64 number, int size)
+void appendUnsigned(std::string &bytes, quint64 number, int size)
 {
     for (int shift = 8 * (size - 1); shift >= 0; shift -= 8) {
         bytes += static_cast<char>(number >> shift);
@@ -47,64 +43,86 @@ char marker(BinaryType type, int detail)
     return static_cast<char>(static_cast<int>(type) << 4 | detail);
 }
 
-QByteArray encoded(char marker, quint64 number, int size)
+void appendNumber(std::string &bytes, char marker, quint64 number, int size)
 {
-    QByteArray bytes(1, marker);
+    bytes += marker;
     appendUnsigned(bytes, number, size);
-    return bytes;
 }
 
 /// Up to four bytes are read as unsigned, eight as signed, so that the upper half of the 64-bit numbers needs sixteen.
-QByteArray encodedUnsigned(quint64 number)
+void appendUnsignedInteger(std::string &bytes, quint64 number)
 {
     if (number > static_cast<quint64>(std::numeric_limits<qint64>::max())) {
-        return encoded(marker(BinaryType::Integer, 4), 0, 8) + encoded({}, number, 8).sliced(1);
+        appendNumber(bytes, marker(BinaryType::Integer, 4), 0, 8);
+        appendUnsigned(bytes, number, 8);
+        return;
     }
     const int size = sizeOfUnsigned(number);
-    return encoded(marker(BinaryType::Integer, std::countr_zero(static_cast<unsigned>(size))), number, size);
+    appendNumber(bytes, marker(BinaryType::Integer, std::countr_zero(static_cast<unsigned>(size))), number, size);
 }
 
-QByteArray encodedSigned(qint64 number)
+void appendSignedInteger(std::string &bytes, qint64 number)
 {
-    const auto bits = static_cast<quint64>(number);
-    return number < 0 ? encoded(marker(BinaryType::Integer, 3), bits, 8) : encodedUnsigned(bits);
+    if (number < 0) {
+        appendNumber(bytes, marker(BinaryType::Integer, 3), static_cast<quint64>(number), 8);
+    } else {
+        appendUnsignedInteger(bytes, static_cast<quint64>(number));
+    }
 }
 
-/// The marker of an object with a count, and the count.
-QByteArray encodedCount(BinaryType type, qsizetype count)
+/// Appends the marker of an object with a count, and the count.
+void appendCount(std::string &bytes, BinaryType type, qsizetype count)
 {
     if (count < binaryCountFollows) {
-        return QByteArray(1, marker(type, static_cast<int>(count)));
+        bytes += marker(type, static_cast<int>(count));
+    } else {
+        bytes += marker(type, binaryCountFollows);
+        appendUnsignedInteger(bytes, static_cast<quint64>(count));
     }
-    return marker(type, binaryCountFollows) + encodedUnsigned(static_cast<quint64>(count));
 }
 
-QByteArray encodedString(const QString &string)
+void appendString(std::string &bytes, const QString &string)
 {
     const auto isAscii = [](QChar unit) {
         return unit.unicode() < 0x80;
     };
     if (std::all_of(string.begin(), string.end(), isAscii)) {
-        return encodedCount(BinaryType::AsciiString, string.size()) + string.toLatin1();
+        appendCount(bytes, BinaryType::AsciiString, string.size());
+        for (const QChar unit : string) {
+            bytes += static_cast<char>(unit.unicode());
+        }
+        return;
     }
-    QByteArray bytes = encodedCount(BinaryType::Utf16String, string.size());
+    appendCount(bytes, BinaryType::Utf16String, string.size());
     for (const QChar unit : string) {
         appendUnsigned(bytes, unit.unicode(), 2);
     }
-    return bytes;
 }
 
-QByteArray encodedDate(const QDateTime &date)
+void appendData(std::string &bytes, const QByteArray &data)
+{
+    appendCount(bytes, BinaryType::Data, data.size());
+    bytes.append(data.constData(), static_cast<std::size_t>(data.size()));
+}
+
+void appendDate(std::string &bytes, const QDateTime &date)
 {
     const double seconds = static_cast<double>(date.toMSecsSinceEpoch() - binaryDateOrigin) / 1000;
-    return encoded(static_cast<char>(binaryDate), std::bit_cast<quint64>(seconds), 8);
+    appendNumber(bytes, static_cast<char>(binaryDate), std::bit_cast<quint64>(seconds), 8);
 }
 
-QByteArray encodedUid(quint32 uid)
+void appendUid(std::string &bytes, quint32 uid)
 {
     const int size = sizeOfUnsigned(uid);
-    return encoded(marker(BinaryType::Uid, size - 1), uid, size);
+    appendNumber(bytes, marker(BinaryType::Uid, size - 1), uid, size);
 }
+
+/// Where the bytes of an object begin, and the references that stand behind them. Both end where those of the next
+/// object begin.
+struct Object {
+    std::size_t start;
+    std::size_t firstReference;
+};
 
 class Writer
 {
@@ -112,31 +130,53 @@ public:
     QByteArray write(const QVariant &value);
 
 private:
+    struct BytesHash {
+        const Writer &writer;
+
+        std::size_t operator()(quint64 index) const { return std::hash<std::string_view>()(writer.bytes(index)); }
+    };
+
+    struct BytesEqual {
+        const Writer &writer;
+
+        bool operator()(quint64 a, quint64 b) const { return writer.bytes(a) == writer.bytes(b); }
+    };
+
     quint64 add(const QVariant &value);
-    quint64 addScalar(const QByteArray &bytes);
     quint64 addArray(const QVariantList &elements);
     quint64 addDictionary(const QVariantMap &entries);
+    quint64 addContainer(BinaryType type, qsizetype count, qsizetype references);
+
+    template <typename AppendScalar>
+    quint64 addScalar(const AppendScalar &appendScalar);
+
+    std::string_view bytes(quint64 index) const;
+    std::size_t referencesEnd(quint64 index) const;
 
     std::vector<Object> m_objects; ///< the list itself is the first one
-    QHash<QByteArray, quint64> m_scalars;
+    std::string m_bytes;
+    std::vector<quint64> m_references;
+    std::unordered_set<quint64, BytesHash, BytesEqual> m_scalars{0, BytesHash{*this}, BytesEqual{*this}};
 };
 
 QByteArray Writer::write(const QVariant &value)
 {
     add(value);
     const int referenceSize = sizeOfUnsigned(m_objects.size());
-    QByteArray list = "bplist00";
+    const std::size_t objectsSize =
+        m_bytes.size() + m_references.size() * static_cast<std::size_t>(referenceSize) + binaryHeaderSize;
+    const int positionSize = sizeOfUnsigned(objectsSize);
+    std::string list = "bplist00";
+    list.reserve(objectsSize + m_objects.size() * static_cast<std::size_t>(positionSize) + binaryTrailerSize);
     std::vector<quint64> positions;
     positions.reserve(m_objects.size());
-    for (const Object &object : m_objects) {
-        positions.push_back(static_cast<quint64>(list.size()));
-        list += object.start;
-        for (const quint64 reference : object.references) {
-            appendUnsigned(list, reference, referenceSize);
+    for (quint64 index = 0; index < m_objects.size(); ++index) {
+        positions.push_back(list.size());
+        list += bytes(index);
+        for (std::size_t i = m_objects[index].firstReference; i < referencesEnd(index); ++i) {
+            appendUnsigned(list, m_references[i], referenceSize);
         }
     }
-    const auto tablePosition = static_cast<quint64>(list.size());
-    const int positionSize = sizeOfUnsigned(tablePosition);
     for (const quint64 position : positions) {
         appendUnsigned(list, position, positionSize);
     }
@@ -145,8 +185,8 @@ QByteArray Writer::write(const QVariant &value)
     appendUnsigned(list, static_cast<quint64>(referenceSize), 1);
     appendUnsigned(list, m_objects.size(), 8);
     appendUnsigned(list, 0, 8);
-    appendUnsigned(list, tablePosition, 8);
-    return list;
+    appendUnsigned(list, objectsSize, 8);
+    return QByteArray::fromStdString(list);
 }
 
 /// Adds the objects that make up the value and answers the index of the outermost one.
@@ -154,23 +194,25 @@ quint64 Writer::add(const QVariant &value)
 {
     switch (propertyListKind(value)) {
     case PropertyListKind::String:
-        return addScalar(encodedString(value.toString()));
+        return addScalar([&] { appendString(m_bytes, value.toString()); });
     case PropertyListKind::SignedInteger:
-        return addScalar(encodedSigned(value.toLongLong()));
+        return addScalar([&] { appendSignedInteger(m_bytes, value.toLongLong()); });
     case PropertyListKind::UnsignedInteger:
-        return addScalar(encodedUnsigned(value.toULongLong()));
+        return addScalar([&] { appendUnsignedInteger(m_bytes, value.toULongLong()); });
     case PropertyListKind::Real:
-        return addScalar(encoded(marker(BinaryType::Real, 3), std::bit_cast<quint64>(value.toDouble()), 8));
+        return addScalar(
+            [&] { appendNumber(m_bytes, marker(BinaryType::Real, 3), std::bit_cast<quint64>(value.toDouble()), 8); });
     case PropertyListKind::ShortReal:
-        return addScalar(encoded(marker(BinaryType::Real, 2), std::bit_cast<quint32>(value.toFloat()), 4));
+        return addScalar(
+            [&] { appendNumber(m_bytes, marker(BinaryType::Real, 2), std::bit_cast<quint32>(value.toFloat()), 4); });
     case PropertyListKind::Boolean:
-        return addScalar(QByteArray(1, static_cast<char>(value.toBool() ? binaryTrue : binaryFalse)));
+        return addScalar([&] { m_bytes += static_cast<char>(value.toBool() ? binaryTrue : binaryFalse); });
     case PropertyListKind::Date:
-        return addScalar(encodedDate(value.toDateTime()));
+        return addScalar([&] { appendDate(m_bytes, value.toDateTime()); });
     case PropertyListKind::Data:
-        return addScalar(encodedCount(BinaryType::Data, value.toByteArray().size()) + value.toByteArray());
+        return addScalar([&] { appendData(m_bytes, value.toByteArray()); });
     case PropertyListKind::Uid:
-        return addScalar(encodedUid(value.value<PropertyList::Uid>().value));
+        return addScalar([&] { appendUid(m_bytes, value.value<PropertyList::Uid>().value); });
     case PropertyListKind::Array:
         return addArray(value.toList());
     case PropertyListKind::Dictionary:
@@ -182,44 +224,65 @@ quint64 Writer::add(const QVariant &value)
 }
 
 /// Equal scalars of one kind have equal bytes and are written once.
-quint64 Writer::addScalar(const QByteArray &bytes)
+template <typename AppendScalar>
+quint64 Writer::addScalar(const AppendScalar &appendScalar)
 {
-    const auto known = m_scalars.constFind(bytes);
-    if (known != m_scalars.cend()) {
-        return *known;
+    const std::size_t start = m_bytes.size();
+    m_objects.push_back({start, m_references.size()});
+    appendScalar();
+    const auto [index, isNew] = m_scalars.insert(m_objects.size() - 1);
+    if (!isNew) {
+        m_objects.pop_back();
+        m_bytes.resize(start);
     }
-    const quint64 index = m_objects.size();
-    m_objects.push_back({bytes, {}});
-    m_scalars.insert(bytes, index);
-    return index;
+    return *index;
 }
 
 quint64 Writer::addArray(const QVariantList &elements)
 {
-    const std::size_t index = m_objects.size();
-    m_objects.push_back({encodedCount(BinaryType::Array, elements.size()), {}});
-    std::vector<quint64> references;
+    const quint64 index = addContainer(BinaryType::Array, elements.size(), elements.size());
+    std::size_t reference = m_objects[index].firstReference;
     for (const QVariant &element : elements) {
-        references.push_back(add(element));
+        const quint64 added = add(element);
+        m_references[reference++] = added;
     }
-    m_objects[index].references = std::move(references);
     return index;
 }
 
 /// A dictionary refers to all its keys and then to all its values.
 quint64 Writer::addDictionary(const QVariantMap &entries)
 {
-    const std::size_t index = m_objects.size();
-    m_objects.push_back({encodedCount(BinaryType::Dictionary, entries.size()), {}});
-    std::vector<quint64> references;
+    const quint64 index = addContainer(BinaryType::Dictionary, entries.size(), 2 * entries.size());
+    std::size_t reference = m_objects[index].firstReference;
     for (auto key = entries.keyBegin(); key != entries.keyEnd(); ++key) {
-        references.push_back(addScalar(encodedString(*key)));
+        m_references[reference++] = addScalar([&] { appendString(m_bytes, *key); });
     }
     for (const QVariant &value : entries) {
-        references.push_back(add(value));
+        const quint64 added = add(value);
+        m_references[reference++] = added;
     }
-    m_objects[index].references = std::move(references);
     return index;
+}
+
+/// Adds a container with room for its references.
+quint64 Writer::addContainer(BinaryType type, qsizetype count, qsizetype references)
+{
+    m_objects.push_back({m_bytes.size(), m_references.size()});
+    appendCount(m_bytes, type, count);
+    m_references.resize(m_references.size() + static_cast<std::size_t>(references));
+    return m_objects.size() - 1;
+}
+
+std::string_view Writer::bytes(quint64 index) const
+{
+    const std::size_t start = m_objects[index].start;
+    const std::size_t end = index + 1 < m_objects.size() ? m_objects[index + 1].start : m_bytes.size();
+    return std::string_view(m_bytes).substr(start, end - start);
+}
+
+std::size_t Writer::referencesEnd(quint64 index) const
+{
+    return index + 1 < m_objects.size() ? m_objects[index + 1].firstReference : m_references.size();
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include <OrvaneExportKit/platform/DefaultsFile.h>
 
 #include <OrvaneExportKit/platform/PropertyList.h>
+#include <OrvaneExportKit/platform/PropertyListCheck.h>
+#include <OrvaneExportKit/platform/PropertyListError.h>
 
 #include <QtCore/QDateTime>
 #include <QtCore/QDeadlineTimer>
@@ -103,10 +105,12 @@ QString lockProblem(const QLockFile &lock)
     }
 }
 
+/// Whether the lock was not made just now; one from the future was made before the clock was set back.
 bool isOld(const QLockFile &lock)
 {
     const QDateTime madeAt = QFileInfo(lock.fileName()).lastModified();
-    return madeAt.isValid() && madeAt.addDuration(abandonedLockAge) < QDateTime::currentDateTime();
+    const auto age = std::chrono::milliseconds(madeAt.msecsTo(QDateTime::currentDateTime()));
+    return madeAt.isValid() && (age > abandonedLockAge || age < -abandonedLockAge);
 }
 
 /// Waits for the lock. The waiting of `QLockFile` itself has pauses that soon get longer than a second, and would never
@@ -186,7 +190,11 @@ QString DefaultsFile::save(const DomainChange &change) const
 
 void DefaultsFile::requireWritable(const QVariantMap &values) const
 {
-    serialized(values);
+    try {
+        platform::requireWritable(values, PropertyList::Format::Xml);
+    } catch (const PropertyListError &error) {
+        throw notWritable(error.description);
+    }
 }
 
 /// Throws where reading fails for a reason that may pass, as a disk error or too many open files: nothing must be
@@ -257,9 +265,14 @@ QByteArray DefaultsFile::serialized(const QVariantMap &contents) const
 {
     const PropertyList::WriteResult list = PropertyList::write(contents, PropertyList::Format::Xml);
     if (!list.data) {
-        throw notSaved(m_path, list.error + u"; give it another value"_s);
+        throw notWritable(list.error);
     }
     return *list.data;
+}
+
+DefaultsError DefaultsFile::notWritable(const QString &reason) const
+{
+    return notSaved(m_path, reason + u"; give it another value"_s);
 }
 
 void DefaultsFile::replace(const QVariantMap &contents) const

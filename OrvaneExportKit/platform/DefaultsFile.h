@@ -46,6 +46,7 @@ private:
     QString keepAside(const QString &problem) const;
     QString nameToKeep() const;
     QByteArray serialized(const QVariantMap &contents) const;
+    DefaultsError notWritable(const QString &reason) const;
     void replace(const QVariantMap &contents) const;
     void remove() const;
 

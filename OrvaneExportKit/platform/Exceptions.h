@@ -6,6 +6,14 @@
 #include <stdexcept>
 #include <string>
 
+/// \file
+/// What the kit throws, beside `std::bad_alloc` where memory runs out.
+///
+/// After any exception the objects that took part can be used on. They are as they were before the call, except where
+/// an operation's own documentation says which part of its work stays done. After `std::bad_alloc` they always are as
+/// they were, or the work is done, and the call can be made again. Qt 6.4 ends the program itself, though, when memory
+/// runs out while a `QHash` grows or a list made of braces is filled, inside the kit as elsewhere.
+
 namespace platform {
 
 /// Base of every exception that the kit throws on purpose; `what()` is one English sentence in UTF-8 that names the

@@ -103,6 +103,13 @@ QVariantMap withValue(QVariantMap dictionary, const QStringList &keys, const QVa
     return dictionary;
 }
 
+QStringList keysBehind(const QList<KeyPathStep> &steps, const QString &keyPath)
+{
+    QStringList keys = keysOf(keyPath);
+    keys.remove(0, steps.size());
+    return keys;
+}
+
 } // namespace
 
 KeyValueCoding::~KeyValueCoding() = default;
@@ -129,7 +136,7 @@ QVariant valueForKeyPath(QObject *object, const QString &keyPath)
 {
     const QList<KeyPathStep> steps = keyPathSteps(object, keyPath);
     QVariant value = Step(steps.last(), keyPath).value();
-    const QStringList dictionaryKeys = keysOf(keyPath).sliced(steps.size());
+    const QStringList dictionaryKeys = keysBehind(steps, keyPath);
     if (isObject(value) && !dictionaryKeys.isEmpty()) {
         return {}; // a null pointer, or the path would go on with that object
     }
@@ -143,7 +150,7 @@ void setValueForKeyPath(QObject *object, const QVariant &value, const QString &k
 {
     const QList<KeyPathStep> steps = keyPathSteps(object, keyPath);
     const Step last(steps.last(), keyPath);
-    const QStringList dictionaryKeys = keysOf(keyPath).sliced(steps.size());
+    const QStringList dictionaryKeys = keysBehind(steps, keyPath);
     if (dictionaryKeys.isEmpty()) {
         last.setValue(value);
         return;

@@ -103,7 +103,8 @@ KeyedArchive::Class KeyedArchive::classAt(quint32 classIndex) const
     if (names.metaType() != QMetaType::fromType<QVariantList>()) {
         failInArchive(place, u"`$classes` is no array"_s);
     }
-    for (const QVariant &name : names.toList()) {
+    const QVariantList list = names.toList();
+    for (const QVariant &name : list) {
         if (name.metaType() != QMetaType::fromType<QString>()) {
             failInArchive(place, u"`$classes` holds something that is no string"_s);
         }

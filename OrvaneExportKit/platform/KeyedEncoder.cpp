@@ -103,8 +103,9 @@ QByteArray fingerprint(const QVariantMap &fields)
 
 } // namespace
 
-KeyedEncoder::KeyedEncoder() : m_objects{KeyedArchive::nothing.toString()}
+KeyedEncoder::KeyedEncoder()
 {
+    m_objects.append(KeyedArchive::nothing.toString());
 }
 
 KeyedEncoder::Reference KeyedEncoder::encode(const QVariant &object)

@@ -27,9 +27,10 @@ QVariantMap requireAttributes(KeyedFieldReader &reader, const QVariant &dictiona
 
 QList<QVariantMap> decodeAttributeDictionaries(KeyedFieldReader &reader, const QVariant &attributes)
 {
-    reader.decoder().spend(static_cast<quint64>(attributes.toList().size()) * sizeof(QVariantMap));
+    const QVariantList list = attributes.toList();
+    reader.decoder().spend(static_cast<quint64>(list.size()) * sizeof(QVariantMap));
     QList<QVariantMap> dictionaries;
-    for (const QVariant &dictionary : attributes.toList()) {
+    for (const QVariant &dictionary : list) {
         if (dictionary.metaType() != QMetaType::fromType<QVariantMap>()) {
             reader.fail(u"`NSAttributes` holds something that is no dictionary of attributes"_s);
         }

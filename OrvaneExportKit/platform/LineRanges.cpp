@@ -1,5 +1,6 @@
 #include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/platform/LineRanges.h>
+#include <OrvaneExportKit/platform/UnitSearch.h>
 
 namespace platform {
 
@@ -11,21 +12,32 @@ bool isInsidePair(std::u16string_view text, std::size_t index)
     return index > 0 && index < text.size() && text[index - 1] == u'\r' && text[index] == u'\n';
 }
 
+struct LineTerminators {
+    template <typename Units>
+    constexpr auto operator()(Units units) const
+    {
+        return OneOf{u'\n', u'\r', u'\u0085'}(units) | isWithin(units, u'\u2028', u'\u2029');
+    }
+};
+
+/// Most blocks of a text in ASCII are done with when no control character stands in them.
+UnitMask fullMask(const char16_t *units, const LineTerminators &terminators)
+{
+    static constexpr AsciiSieve<1> candidates({{{u'\n', u'\r'}}}, true);
+    return platform::fullMask(units, candidates) == 0 ? 0 : platform::fullMask<LineTerminators>(units, terminators);
+}
+
 std::size_t lineStart(std::u16string_view text, std::size_t index)
 {
-    while (index > 0 && (!isLineTerminator(text[index - 1]) || isInsidePair(text, index))) {
-        --index;
-    }
-    return index;
+    const std::size_t start = findBehindLastUnit(text, 0, index, LineTerminators());
+    return isInsidePair(text, start) ? lineStart(text, start - 1) : start;
 }
 
 } // namespace
 
 std::size_t lineEnd(std::u16string_view text, std::size_t index) noexcept
 {
-    while (index < text.size() && !isLineTerminator(text[index])) {
-        ++index;
-    }
+    index = findUnit(text, index, LineTerminators());
     if (index == text.size()) {
         return index;
     }

@@ -1,42 +1,30 @@
 #include <OrvaneExportKit/platform/Exceptions.h>
-#include <OrvaneExportKit/platform/TextEdits.h>
+#include <OrvaneExportKit/platform/TextEditor.h>
 #include <OrvaneExportKit/platform/TextUnits.h>
-
-#include <algorithm>
 
 namespace platform {
 
 namespace {
 
-bool makesLonger(const TextEdit &edit)
+bool makesShorter(const TextEdit &edit)
 {
-    return edit.replacement.size() > edit.range.length;
+    return edit.replacement.size() < edit.range.length;
 }
 
-std::size_t lengthAfterEdits(std::size_t length, const TextEdits &edits)
+/// Edits that make nothing shorter, made from the end of the text to its start: then no unit is moved twice.
+void applyBackwards(QString &text, const TextEdits &edits, std::size_t growth)
 {
-    for (const TextEdit &edit : edits) {
-        length = length - edit.range.length + edit.replacement.size();
+    std::size_t position = units(text).size();
+    const auto size = static_cast<qsizetype>(position + growth);
+    text.reserve(size); // exactly, where resizing alone would take more
+    text.resize(size);
+    auto *const start = reinterpret_cast<char16_t *>(text.data());
+    char16_t *target = start + size;
+    for (auto edit = edits.rbegin(); edit != edits.rend(); ++edit) {
+        target = std::copy_backward(start + edit->range.end(), start + position, target);
+        target = std::copy_backward(edit->replacement.begin(), edit->replacement.end(), target);
+        position = edit->range.location;
     }
-    return length;
-}
-
-/// Writes the edited text to `target` and returns the end of what was written. `target` may be the text itself when
-/// no edit makes it longer: what is written then never overtakes what is still to be read.
-char16_t *writeEdited(char16_t *target, std::u16string_view text, const TextEdits &edits)
-{
-    std::size_t position = 0;
-    for (const TextEdit &edit : edits) {
-        target = std::copy(text.data() + position, text.data() + edit.range.location, target);
-        target = std::copy(edit.replacement.begin(), edit.replacement.end(), target);
-        position = edit.range.end();
-    }
-    return std::copy(text.data() + position, text.data() + text.size(), target);
-}
-
-char16_t *mutableUnits(QString &text)
-{
-    return reinterpret_cast<char16_t *>(text.data());
 }
 
 } // namespace
@@ -60,14 +48,13 @@ void applyEdits(QString &text, const TextEdits &edits)
         return;
     }
     requireEdits(edits, units(text).size());
-    if (text.isDetached() && std::none_of(edits.begin(), edits.end(), makesLonger)) {
-        char16_t *const start = mutableUnits(text);
-        text.truncate(writeEdited(start, units(text), edits) - start);
+    const std::size_t growth = growthByEdits(edits);
+    if (growth > 0 && std::none_of(edits.begin(), edits.end(), makesShorter)) {
+        applyBackwards(text, edits, growth);
         return;
     }
-    QString edited(static_cast<qsizetype>(lengthAfterEdits(units(text).size(), edits)), Qt::Uninitialized);
-    writeEdited(mutableUnits(edited), units(text), edits);
-    text.swap(edited);
+    TextEditor editor(text, growth);
+    editor.apply(edits, editor.given().size());
 }
 
 } // namespace platform

@@ -26,7 +26,8 @@ QVariant unarchivedElement(const QList<QByteArray> &archives, qsizetype index)
 
 QVariantList KZArrayExportAdditions::arrayWithUnarchivedKeyedContent(const QList<QByteArray> &archives)
 {
-    QVariantList objects(archives.size());
+    QVariantList objects;
+    objects.resize(archives.size()); // which looks whether there is memory; the constructor does not
     for (qsizetype index = archives.size() - 1; index >= 0; --index) {
         objects[index] = unarchivedElement(archives, index);
     }

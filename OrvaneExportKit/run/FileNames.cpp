@@ -7,6 +7,7 @@
 #include <QtCore/QJsonDocument>
 
 #include <unordered_map>
+#include <vector>
 
 namespace {
 
@@ -34,19 +35,19 @@ struct DocumentEqual {
     bool operator()(const ExportDocument *a, const ExportDocument *b) const { return a->isEqual(*b); }
 };
 
-/// The place, from 1, of the first document that equals the key.
-using RunningNumbers = std::unordered_map<const ExportDocument *, qsizetype, DocumentHash, DocumentEqual>;
-
-RunningNumbers runningNumbers(const QList<const ExportDocument *> &documents)
+/// For every document the place, from 1, of the first one that equals it.
+std::vector<qsizetype> runningNumbers(const QList<const ExportDocument *> &documents)
 {
-    RunningNumbers numbers;
+    std::unordered_map<const ExportDocument *, qsizetype, DocumentHash, DocumentEqual> firstPlaces;
+    firstPlaces.reserve(static_cast<std::size_t>(documents.size()));
+    std::vector<qsizetype> numbers;
     numbers.reserve(static_cast<std::size_t>(documents.size()));
     for (qsizetype index = 0; index < documents.size(); ++index) {
         if (documents[index] == nullptr) {
             throw platform::InvalidArgumentException("filenamesFromComponents: the document at index " +
                                                      std::to_string(index) + " is null");
         }
-        numbers.try_emplace(documents[index], index + 1);
+        numbers.push_back(firstPlaces.try_emplace(documents[index], index + 1).first->second);
     }
     return numbers;
 }
@@ -99,12 +100,13 @@ QStringList filenamesFromComponents(const QString &destination, const QStringLis
                                     const QString &pathExtension)
 {
     const Destination resolved = resolvedDestination(destination, pathExtension);
-    const RunningNumbers numbers = runningNumbers(documents);
+    const std::vector<qsizetype> numbers = runningNumbers(documents);
     const QString pattern = components.join(QString());
     QStringList paths;
     paths.reserve(documents.size());
-    for (const ExportDocument *document : documents) {
-        const QString name = fileName(pattern, *document, numbers.at(document), resolved, convertSpaces);
+    for (qsizetype index = 0; index < documents.size(); ++index) {
+        const qsizetype number = numbers[static_cast<std::size_t>(index)];
+        const QString name = fileName(pattern, *documents[index], number, resolved, convertSpaces);
         paths.append(platform::appendingPathComponent(resolved.folder, name));
     }
     return paths;

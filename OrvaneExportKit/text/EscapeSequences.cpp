@@ -1,7 +1,9 @@
 #include <OrvaneExportKit/text/EscapeSequences.h>
 
-#include <OrvaneExportKit/platform/TextUnits.h>
+#include <OrvaneExportKit/platform/TextEditor.h>
+#include <OrvaneExportKit/platform/UnitSearch.h>
 #include <OrvaneExportKit/text/Occurrences.h>
+#include <OrvaneExportKit/text/UnitSubstitution.h>
 
 #include <algorithm>
 #include <optional>
@@ -23,20 +25,82 @@ std::optional<std::u16string_view> counterpart(char16_t unit, std::u16string_vie
 
 /// A sequence becomes its control character, but loses only its backslash behind another one; a control character
 /// behind a backslash becomes its letter.
-TextEdits findEscapeSequences(std::u16string_view text)
+class EscapeFinder
 {
-    TextEdits edits;
-    for (std::size_t at = platform::findLiteral(text, u"\\", 0); at != platform::notFound && at + 1 < text.size();
-         at = platform::findLiteral(text, u"\\", at + 1)) {
-        if (const auto control = counterpart(text[at + 1], letters, controls)) {
-            const bool escaped = at > 0 && text[at - 1] == u'\\';
-            edits.push_back(escaped ? platform::TextEdit{{at, 1}} : platform::TextEdit{{at, 2}, *control});
-        } else if (const auto letter = counterpart(text[at + 1], controls, letters)) {
-            edits.push_back({{at + 1, 1}, *letter});
+public:
+    std::size_t operator()(std::u16string_view text, std::size_t from, std::size_t until, TextEdits &edits)
+    {
+        std::size_t next = until;
+        platform::forEachUnit(text.substr(0, until), from, platform::OneOf{u'\\'}, [&](std::size_t at) {
+            const bool escaped = at == m_behindBackslash;
+            m_behindBackslash = at + 1;
+            if (at + 1 == text.size()) {
+                return;
+            }
+            if (const auto control = counterpart(text[at + 1], letters, controls)) {
+                edits.push_back(escaped ? platform::TextEdit{{at, 1}} : platform::TextEdit{{at, 2}, *control});
+            } else if (const auto letter = counterpart(text[at + 1], controls, letters)) {
+                edits.push_back({{at + 1, 1}, *letter});
+            } else {
+                return;
+            }
+            next = std::max(next, edits.back().range.end());
+        });
+        return next;
+    }
+
+private:
+    std::size_t m_behindBackslash = platform::notFound; // behind the last one
+};
+
+/// Applies pairs one after the other to a copy of a text. In a long text those of single units are gathered and made in
+/// one pass.
+class Substitution
+{
+public:
+    explicit Substitution(QStringView text) : m_given(text) {}
+
+    void apply(const QString &from, const QString &to)
+    {
+        constexpr qsizetype longText = 2000; // about where gathering begins to pay
+        if (from.size() == 1 && m_given.size() >= longText && appendReplacement(m_gathered, units(from).front(), to)) {
+            return;
+        }
+        makeGathered();
+        if (platform::findLiteral(m_copy ? units(*m_copy) : units(m_given), units(from), 0) != platform::notFound) {
+            edit(platform::Replacements{units(from), units(to)});
         }
     }
-    return edits;
-}
+
+    QString result()
+    {
+        makeGathered();
+        return m_copy ? std::move(*m_copy) : m_given.toString();
+    }
+
+private:
+    void makeGathered()
+    {
+        if (!m_gathered.empty()) {
+            edit(platform::UnitReplacementFinder(m_gathered));
+            m_gathered.clear();
+        }
+    }
+
+    template <typename Find>
+    void edit(const Find &find)
+    {
+        if (m_copy) {
+            platform::editInBlocks(*m_copy, find);
+        } else {
+            m_copy = platform::editedCopy(units(m_given), find);
+        }
+    }
+
+    QStringView m_given;
+    std::optional<QString> m_copy; // once something was applied
+    platform::UnitReplacements m_gathered;
+};
 
 } // namespace
 
@@ -44,18 +108,16 @@ namespace KZStringExportAdditions {
 
 QString stringWithConvertedEscSequences(QStringView text)
 {
-    QString converted = text.toString();
-    applyEdits(converted, findEscapeSequences(units(text)));
-    return converted;
+    return platform::editedCopy(units(text), EscapeFinder());
 }
 
 QString stringWithConvertedStringsFromArray(QStringView text, const QStringList &from, const QStringList &to)
 {
-    QString converted = text.toString();
+    Substitution substitution(text);
     for (qsizetype pair = std::min(from.size(), to.size()); pair-- > 0;) {
-        applyEdits(converted, platform::findReplacements(units(converted), units(from[pair]), units(to[pair])));
+        substitution.apply(from[pair], to[pair]);
     }
-    return converted;
+    return substitution.result();
 }
 
 } // namespace KZStringExportAdditions

@@ -1,11 +1,25 @@
 #pragma once
 
+#include <OrvaneExportKit/platform/AttributedString.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
-#include <OrvaneExportKit/platform/TextEdits.h>
+#include <OrvaneExportKit/platform/TextEditor.h>
 
 #include <optional>
 
 namespace platform {
+
+/// Makes the edits that `find` finds, as `editInBlocks` calls it.
+template <typename Find>
+void carryOutFound(QString &text, Find &&find)
+{
+    editInBlocks(text, find);
+}
+
+template <typename Find>
+void carryOutFound(AttributedString &text, Find &&find)
+{
+    editAtOnce(text, find);
+}
 
 /// What was found for an operation that may fail on its way: the edits that take effect before it fails, all of them
 /// when it does not, and the failure.

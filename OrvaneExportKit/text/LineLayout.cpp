@@ -1,121 +1,142 @@
 #include <OrvaneExportKit/text/LineLayout.h>
 
+#include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/platform/LineRanges.h>
-#include <OrvaneExportKit/platform/TextUnits.h>
-#include <OrvaneExportKit/text/FoundEdits.h>
-#include <OrvaneExportKit/text/Occurrences.h>
-#include <OrvaneExportKit/text/TaggedSpans.h>
+#include <OrvaneExportKit/platform/TextEditor.h>
+#include <OrvaneExportKit/platform/UnitSearch.h>
 
 #include <algorithm>
 #include <limits>
 
-using platform::FoundEdits;
-using platform::Range;
-using platform::RangeList;
 using platform::TextEdits;
 using platform::units;
 
 namespace {
 
-/// The unbroken run of tabs at the start of each line.
-RangeList findStartTabs(QStringView text)
+/// Finds the tabs of the unbroken run at the start of each line.
+class StartTabFinder
 {
-    RangeList lines = KZStringExportAdditions::lineRangesForLevelString(text, u"\t");
-    for (Range &line : lines) {
-        const std::u16string_view content = units(text).substr(line.location, line.length);
-        line.length = std::min(content.find_first_not_of(u'\t'), content.size());
+public:
+    explicit StartTabFinder(quint32 spaces) : m_spaces(spaces) {}
+
+    std::size_t operator()(std::u16string_view text, std::size_t from, std::size_t until, TextEdits &edits)
+    {
+        platform::forEachUnit(text.substr(0, until), from, platform::OneOf{u'\n', u'\t'}, [&](std::size_t at) {
+            if (text[at] == u'\n') {
+                m_start = at + 1;
+            } else if (at == m_start) {
+                edits.push_back({{at, 1}, replacement()});
+                m_start = at + 1;
+            }
+        });
+        return until;
     }
-    return lines;
+
+private:
+    /// Made for the first tab that is found: it may be too long for any memory.
+    std::u16string_view replacement()
+    {
+        if (m_replacement.isEmpty()) {
+            m_replacement.fill(u' ', static_cast<qsizetype>(m_spaces));
+        }
+        return units(m_replacement);
+    }
+
+    quint32 m_spaces;
+    QString m_replacement;
+    std::size_t m_start = 0; // where a tab would belong to the run at the start of its line
+};
+
+/// Finds the line feeds before another one.
+std::size_t findEmptyLines(std::u16string_view text, std::size_t from, std::size_t until, TextEdits &edits)
+{
+    platform::forEachLiteral(text, u"\n\n", from, until, [&](std::size_t at) { edits.push_back({{at, 1}}); });
+    return until;
 }
 
-TextEdits findEmptyLines(std::u16string_view text)
-{
-    TextEdits edits;
-    for (std::size_t at = platform::findLiteral(text, u"\n\n", 0); at != platform::notFound;) {
-        const std::size_t end = std::min(text.find_first_not_of(u'\n', at), text.size());
-        edits.push_back({{at, end - at - 1}});
-        at = platform::findLiteral(text, u"\n\n", end);
+/// The units behind which a line may end.
+struct BreakCharacters {
+    template <typename Units>
+    constexpr auto operator()(Units units) const
+    {
+        using platform::isWithin;
+        return isWithin(units, u'\0', u'!') | isWithin(units, u'#', u'&') | isWithin(units, u')', u'/') |
+               isWithin(units, u':', u'@') | isWithin(units, u'\\', u']') | isWithin(units, u'|', u'~');
     }
-    return edits;
-}
-
-/// Whether a line may end behind the unit.
-constexpr bool isBreakCharacter(char16_t unit)
-{
-    return (unit <= u'/' && unit != u'"' && unit != u'\'' && unit != u'(') || (unit >= u':' && unit <= u'@') ||
-           unit == u'\\' || unit == u']' || (unit >= u'|' && unit <= u'~');
-}
+};
 
 /// Finds the places where lines that are too long are broken. The text is taken as if a line feed were appended, so
 /// that every line has a terminator.
 class LineBreaker
 {
 public:
-    LineBreaker(std::u16string_view text, std::size_t limit) : m_text(text), m_limit(limit) {}
+    explicit LineBreaker(std::size_t limit) : m_limit(limit) {}
 
-    FoundEdits findBreaks()
+    std::size_t operator()(std::u16string_view text, std::size_t from, std::size_t until, TextEdits &edits)
     {
-        FoundEdits found;
-        while (m_start < m_text.size()) {
-            if (m_start == m_end) {
-                m_end = lineEnd(m_start);
+        std::size_t start = from;
+        while (start < until) {
+            if (start == m_end) {
+                m_end = lineEnd(text, start);
             }
-            if (m_end - m_start <= m_limit + 1) {
-                m_start = m_end;
+            if (m_end - start <= m_limit + 1) {
+                start = m_end;
                 continue;
             }
-            const std::size_t gap = skipSpacesBackwards(breakPosition());
+            const std::size_t gap = skipSpacesBackwards(text, start, breakPosition(text, start));
             if (gap == 0) {
-                constexpr Range beforeTheText{std::numeric_limits<std::size_t>::max(), 1};
-                found.failure.emplace("setMaxLineLength", beforeTheText, m_text.size() + 1);
-                break;
+                m_fails = true;
+                return text.size();
             }
-            const std::size_t next = skipSpaces(gap);
-            found.edits.push_back({{gap, next - gap}, u"\n"});
-            m_start = next;
+            start = skipSpaces(text, gap);
+            edits.push_back({{gap, start - gap}, u"\n"});
         }
-        return found;
+        return std::min(start, text.size());
     }
 
+    /// Whether the first line cannot be broken, which ends the search.
+    bool fails() const { return m_fails; }
+
 private:
-    std::size_t lineEnd(std::size_t index) const
+    static std::size_t lineEnd(std::u16string_view text, std::size_t index)
     {
-        const std::size_t end = platform::lineEnd(m_text, index);
+        const std::size_t end = platform::lineEnd(text, index);
         const bool joinsAppended =
-            end == m_text.size() && (!platform::isLineTerminator(m_text.back()) || m_text.back() == u'\r');
+            end == text.size() && (!platform::isLineTerminator(text.back()) || text.back() == u'\r');
         return joinsAppended ? end + 1 : end;
     }
 
     /// The position behind the last break character among the first units of the line, or else behind its first unit.
-    std::size_t breakPosition()
+    std::size_t breakPosition(std::u16string_view text, std::size_t start)
     {
-        const std::size_t floor = std::max(m_start, m_searchedUpTo);
-        std::size_t position = m_start + m_limit;
-        m_searchedUpTo = position;
-        while (position > floor && !isBreakCharacter(m_text[position - 1])) {
-            --position;
-        }
-        return position > floor ? position : m_start + 1;
+        const std::size_t floor = std::max(start, m_searchedUpTo);
+        m_searchedUpTo = start + m_limit;
+        const std::size_t position = floor < m_searchedUpTo
+                                         ? platform::findBehindLastUnit(text, floor, m_searchedUpTo, BreakCharacters())
+                                         : floor;
+        return position > floor ? position : start + 1;
     }
 
-    std::size_t skipSpacesBackwards(std::size_t position) const
+    static std::size_t skipSpacesBackwards(std::u16string_view text, std::size_t start, std::size_t position)
     {
-        while (position > m_start && m_text[position - 1] == u' ') {
+        while (position > start && text[position - 1] == u' ') {
             --position;
         }
         return position;
     }
 
-    std::size_t skipSpaces(std::size_t position) const
+    static std::size_t skipSpaces(std::u16string_view text, std::size_t position)
     {
-        return std::min(m_text.find_first_not_of(u' ', position), m_text.size());
+        while (position < text.size() && text[position] == u' ') {
+            ++position;
+        }
+        return position;
     }
 
-    std::u16string_view m_text;
     std::size_t m_limit;
-    std::size_t m_start = 0;        // of the line looked at
-    std::size_t m_end = 0;          // behind its terminator
-    std::size_t m_searchedUpTo = 0; // no break character stands between m_start and here
+    std::size_t m_end = 0;          // behind the terminator of the line
+    std::size_t m_searchedUpTo = 0; // no break character stands between the start of the line and here
+    bool m_fails = false;
 };
 
 } // namespace
@@ -124,23 +145,12 @@ namespace KZMutableStringExportAdditions {
 
 void convertStartTabsToSpace(QString &text, quint32 spaces)
 {
-    const RangeList tabs = findStartTabs(text);
-    if (tabs.empty()) {
-        return;
-    }
-    const QString replacement(static_cast<qsizetype>(spaces), u' ');
-    TextEdits edits;
-    for (const Range &run : tabs) {
-        for (std::size_t at = run.location; at < run.end(); ++at) {
-            edits.push_back({{at, 1}, units(replacement)});
-        }
-    }
-    applyEdits(text, edits);
+    platform::editAtOnce(text, StartTabFinder(spaces));
 }
 
 void deleteEmptyLines(QString &text)
 {
-    applyEdits(text, findEmptyLines(units(text)));
+    platform::editInBlocks(text, findEmptyLines);
 }
 
 void setMaxLineLength(QString &text, quint32 limit)
@@ -148,11 +158,13 @@ void setMaxLineLength(QString &text, quint32 limit)
     if (limit == std::numeric_limits<quint32>::max()) {
         return;
     }
-    const FoundEdits found = LineBreaker(units(text), limit).findBreaks();
-    if (found.failure) {
+    LineBreaker lineBreaker(limit);
+    platform::editInBlocks(text, lineBreaker);
+    if (lineBreaker.fails()) {
         text.append(u'\n');
+        constexpr platform::Range beforeTheText{std::numeric_limits<std::size_t>::max(), 1};
+        throw platform::RangeException("setMaxLineLength", beforeTheText, units(text).size());
     }
-    carryOut(text, found);
 }
 
 } // namespace KZMutableStringExportAdditions

@@ -1,6 +1,6 @@
 #include <OrvaneExportKit/text/Occurrences.h>
 
-#include <OrvaneExportKit/platform/TextUnits.h>
+#include <OrvaneExportKit/platform/UnitSearch.h>
 
 namespace platform {
 
@@ -9,27 +9,27 @@ std::size_t findLiteral(std::u16string_view text, std::u16string_view literal, s
     if (literal.empty()) {
         return notFound;
     }
-    // Qt's search for one unit is vectorised, its search for a short string is not.
-    const QStringView searched = view(text);
-    qsizetype at = searched.indexOf(QChar(literal.front()), static_cast<qsizetype>(from));
-    while (at >= 0) {
-        const auto place = static_cast<std::size_t>(at);
-        if (text.substr(place).starts_with(literal)) {
-            return place;
+    const OneOf first{literal.front()};
+    for (std::size_t at = from; at < text.size(); ++at) {
+        at = findUnit(text, at, first);
+        if (text.substr(at).starts_with(literal)) {
+            return at;
         }
-        at = searched.indexOf(QChar(literal.front()), at + 1);
     }
     return notFound;
 }
 
-TextEdits findReplacements(std::u16string_view text, std::u16string_view literal, std::u16string_view replacement)
+std::size_t Replacements::operator()(std::u16string_view text, std::size_t from, std::size_t until,
+                                     TextEdits &edits) const
 {
-    TextEdits edits;
-    for (std::size_t at = findLiteral(text, literal, 0); at != notFound;
-         at = findLiteral(text, literal, at + literal.size())) {
-        edits.push_back({{at, literal.size()}, replacement});
-    }
-    return edits;
+    std::size_t next = from;
+    forEachLiteral(text, literal, from, until, [&](std::size_t at) {
+        if (at >= next) {
+            edits.push_back({{at, literal.size()}, replacement});
+            next = at + literal.size();
+        }
+    });
+    return std::max(next, until);
 }
 
 } // namespace platform

@@ -10,7 +10,12 @@ namespace platform {
 /// none. An empty literal is never found.
 std::size_t findLiteral(std::u16string_view text, std::u16string_view literal, std::size_t from);
 
-/// The edits that put `replacement` in the place of every occurrence of `literal`, found from the left without overlap.
-TextEdits findReplacements(std::u16string_view text, std::u16string_view literal, std::u16string_view replacement);
+/// Finds the edits that put `replacement` in the place of every occurrence of `literal`, from the left without overlap.
+struct Replacements {
+    std::u16string_view literal;
+    std::u16string_view replacement;
+
+    std::size_t operator()(std::u16string_view text, std::size_t from, std::size_t until, TextEdits &edits) const;
+};
 
 } // namespace platform

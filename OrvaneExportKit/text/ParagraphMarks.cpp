@@ -1,5 +1,6 @@
 #include <OrvaneExportKit/text/ParagraphMarks.h>
 
+#include <OrvaneExportKit/text/DisjointRanges.h>
 #include <OrvaneExportKit/text/Occurrences.h>
 #include <OrvaneExportKit/text/PositionSet.h>
 
@@ -10,14 +11,6 @@ namespace platform {
 namespace {
 
 constexpr const char *operation = "deleteParagraphMark";
-
-bool isAscendingAndDisjoint(const RangeList &ranges)
-{
-    const auto meets = [](const Range &a, const Range &b) {
-        return b.location < a.location || a.length > b.location - a.location;
-    };
-    return std::adjacent_find(ranges.begin(), ranges.end(), meets) == ranges.end();
-}
 
 /// The usual list: what a range takes out lies before all that the ranges behind it took out, so the text as it was
 /// tells everything.

@@ -1,7 +1,8 @@
 #include <OrvaneExportKit/text/QuotationMarks.h>
 
 #include <OrvaneExportKit/platform/Bundle.h>
-#include <OrvaneExportKit/platform/TextUnits.h>
+#include <OrvaneExportKit/platform/UnitSearch.h>
+#include <OrvaneExportKit/text/FoundEdits.h>
 #include <OrvaneExportKit/text/QuotationTable.h>
 
 #include <array>
@@ -36,44 +37,51 @@ std::size_t skipWhiteSpace(std::u16string_view text, std::size_t position)
     return position;
 }
 
-std::size_t findMarkOrLineFeed(std::u16string_view text, std::size_t position)
+/// Finds the straight marks and what takes their places.
+class MarkFinder
 {
-    while (position < text.size() && text[position] != straightMark && text[position] != u'\n') {
-        ++position;
-    }
-    return position;
-}
+public:
+    explicit MarkFinder(const MarkPair &marks) : m_marks(marks) {}
 
-TextEdits findQuotationMarks(std::u16string_view text, const MarkPair &marks)
-{
-    TextEdits edits;
-    bool opens = true;
-    for (std::size_t position = 0; position < text.size();) {
-        const std::size_t word = skipWhiteSpace(text, position);
-        const std::size_t at = findMarkOrLineFeed(text, word);
-        if (at == text.size()) {
-            break;
+    std::size_t operator()(std::u16string_view text, std::size_t from, std::size_t until, TextEdits &edits)
+    {
+        if (from == 0) {
+            passPlace(text, 0);
         }
-        if (at == word && word > position) {
-            opens = true; // nothing but white space since the last place
-        }
-        if (text[at] == straightMark) {
-            edits.push_back({{at, 1}, opens ? marks.start : marks.stop});
-            opens = !opens;
-        } else {
-            opens = true;
-        }
-        position = at + 1;
+        platform::forEachUnit(text.substr(0, until), from, platform::OneOf{straightMark, u'\n'}, [&](std::size_t at) {
+            if (at < m_word) {
+                return; // a line feed among the white space behind the last place
+            }
+            const bool startsAnew = text[at] != straightMark || (at == m_word && m_word > m_behindPlace);
+            m_opens = m_opens || startsAnew;
+            if (text[at] == straightMark) {
+                edits.push_back({{at, 1}, m_opens ? m_marks.start : m_marks.stop});
+                m_opens = !m_opens;
+            }
+            passPlace(text, at + 1);
+        });
+        return until;
     }
-    return edits;
-}
+
+private:
+    void passPlace(std::u16string_view text, std::size_t behind)
+    {
+        m_behindPlace = behind;
+        m_word = skipWhiteSpace(text, behind);
+    }
+
+    MarkPair m_marks;
+    bool m_opens = true;
+    std::size_t m_behindPlace = 0; // behind the last mark or line feed that counts
+    std::size_t m_word = 0;        // behind the white space that follows it
+};
 
 template <typename Text>
 void convertToStyle(Text &text, qint32 style)
 {
     const auto number = static_cast<quint32>(style);
     if (number < styles.size()) {
-        applyEdits(text, findQuotationMarks(units(text), styles[number]));
+        platform::carryOutFound(text, MarkFinder(styles[number]));
     }
 }
 
@@ -84,7 +92,7 @@ void convertToLanguage(Text &text, const QString &language)
     const QString straight(straightMark);
     const QString start = marks.begin.value_or(straight);
     const QString stop = marks.end.value_or(straight);
-    applyEdits(text, findQuotationMarks(units(text), {units(start), units(stop)}));
+    platform::carryOutFound(text, MarkFinder({units(start), units(stop)}));
 }
 
 } // namespace
@@ -96,7 +104,7 @@ void convertQuotationsToStart(QString &text, QStringView start, QStringView stop
     // The marks may be views of the very text that is changed.
     const std::u16string startMark(units(start));
     const std::u16string stopMark(units(stop));
-    applyEdits(text, findQuotationMarks(units(text), {startMark, stopMark}));
+    platform::carryOutFound(text, MarkFinder({startMark, stopMark}));
 }
 
 void convertQuotationsToType(QString &text, qint32 style)

@@ -1,6 +1,7 @@
 #include <OrvaneExportKit/text/RangeLists.h>
 
 #include <OrvaneExportKit/platform/LineRanges.h>
+#include <OrvaneExportKit/text/DisjointRanges.h>
 #include <OrvaneExportKit/text/FoundEdits.h>
 #include <OrvaneExportKit/text/PositionSet.h>
 
@@ -13,6 +14,7 @@ using platform::FoundEdits;
 using platform::Range;
 using platform::RangeException;
 using platform::RangeList;
+using platform::TextEdits;
 using platform::units;
 
 namespace {
@@ -30,6 +32,47 @@ RangeList sortedByLocation(RangeList ranges)
     return ranges;
 }
 
+/// Of ascending ranges that do not overlap only the last can reach past the end, and its turn comes first.
+void requireLastRange(const char *operation, const RangeList &disjoint, std::size_t length)
+{
+    if (!disjoint.empty()) {
+        platform::requireRange(operation, disjoint.back(), length);
+    }
+}
+
+/// Goes through ascending ranges that do not overlap: calls `visit` for those that begin before `until`, also for one
+/// at the very end of the text, and returns from where it goes on.
+class RangeWalk
+{
+public:
+    explicit RangeWalk(const RangeList &ranges) : m_next(ranges.begin()), m_end(ranges.end()) {}
+
+    template <typename Visit>
+    std::size_t operator()(std::size_t length, std::size_t until, Visit visit)
+    {
+        std::size_t end = until;
+        for (; m_next != m_end && (m_next->location < until || m_next->location == length); ++m_next) {
+            visit(*m_next);
+            end = m_next->end();
+        }
+        return std::max(end, until);
+    }
+
+private:
+    RangeList::const_iterator m_next;
+    RangeList::const_iterator m_end;
+};
+
+template <typename Text>
+void deleteDisjointRanges(Text &text, const RangeList &ranges)
+{
+    requireLastRange("deleteCharactersInRanges", ranges, units(text).size());
+    RangeWalk walk(ranges);
+    platform::carryOutFound(text, [&](std::u16string_view given, std::size_t, std::size_t until, TextEdits &edits) {
+        return walk(given.size(), until, [&](const Range &range) { edits.push_back({range}); });
+    });
+}
+
 /// The stretch of the original text that deleting `range` from the current one takes out. `deleted` holds what is
 /// gone already, from the highest stretch to the lowest, none of it before the range; the stretches that the range
 /// reaches become part of it.
@@ -43,11 +86,10 @@ Range stretchToDelete(const Range &range, RangeList &deleted)
     return {range.location, end - range.location};
 }
 
-FoundEdits findDeletions(std::size_t length, const RangeList &ranges)
+FoundEdits findDeletions(std::size_t length, const RangeList &sorted)
 {
     FoundEdits found;
     RangeList deleted;
-    const RangeList sorted = sortedByLocation(ranges);
     for (auto range = sorted.rbegin(); range != sorted.rend(); ++range) {
         if (!range->fits(length)) {
             found.failure.emplace("deleteCharactersInRanges", *range, length);
@@ -63,33 +105,41 @@ FoundEdits findDeletions(std::size_t length, const RangeList &ranges)
     return found;
 }
 
+/// Calls `disjoint` with the sorted ranges where they do not overlap, and `overlapping` where they do.
+template <typename Disjoint, typename Overlapping>
+void withSortedRanges(const RangeList &ranges, Disjoint disjoint, Overlapping overlapping)
+{
+    if (platform::isAscendingAndDisjoint(ranges)) {
+        disjoint(ranges);
+        return;
+    }
+    const RangeList sorted = sortedByLocation(ranges);
+    if (platform::isAscendingAndDisjoint(sorted)) {
+        disjoint(sorted);
+    } else {
+        overlapping(sorted);
+    }
+}
+
 template <typename Text>
 void deleteRanges(Text &text, const RangeList &ranges)
 {
-    carryOut(text, findDeletions(units(text).size(), ranges));
+    withSortedRanges(
+        ranges, [&](const RangeList &sorted) { deleteDisjointRanges(text, sorted); },
+        [&](const RangeList &sorted) { carryOut(text, findDeletions(units(text).size(), sorted)); });
 }
 
-bool isDisjoint(const RangeList &sorted)
+void encloseDisjointRanges(QString &text, const RangeList &ranges, std::u16string_view string)
 {
-    const auto reachesInto = [](const Range &a, const Range &b) {
-        return a.length > b.location - a.location;
-    };
-    return std::adjacent_find(sorted.begin(), sorted.end(), reachesInto) == sorted.end();
-}
-
-FoundEdits findDisjointEnclosures(std::size_t length, const RangeList &sorted, std::u16string_view string)
-{
-    FoundEdits found;
-    if (!sorted.empty() && !sorted.back().fits(length)) {
-        found.failure.emplace("encloseRanges", sorted.back(), length);
-        return found;
-    }
-    found.edits.reserve(2 * sorted.size());
-    for (const Range &range : sorted) {
-        found.edits.push_back({{range.location, 0}, string});
-        found.edits.push_back({{range.end(), 0}, string});
-    }
-    return found;
+    requireLastRange("encloseRanges", ranges, units(text).size());
+    RangeWalk walk(ranges);
+    platform::editAtOnce(text, [&](std::u16string_view given, std::size_t, std::size_t until, TextEdits &edits) {
+        edits.reserve(2 * ranges.size());
+        return walk(given.size(), until, [&](const Range &range) {
+            edits.push_back({{range.location, 0}, string});
+            edits.push_back({{range.end(), 0}, string});
+        });
+    });
 }
 
 /// The text that all insertions together put in, at the places where it ends up. Its units that are not `kept` free
@@ -209,14 +259,13 @@ void deleteCharactersInRanges(QString &text, const RangeList &ranges)
 
 void encloseRanges(QString &text, const RangeList &ranges, QStringView string)
 {
-    const RangeList sorted = sortedByLocation(ranges);
-    const auto length = static_cast<std::size_t>(text.size());
-    if (isDisjoint(sorted)) {
-        carryOut(text, findDisjointEnclosures(length, sorted, units(string)));
-        return;
-    }
-    std::vector<char16_t> inserted;
-    carryOut(text, findOverlappingEnclosures(length, sorted, units(string), inserted));
+    const std::u16string copy(units(string)); // it may view the very text that is changed
+    withSortedRanges(
+        ranges, [&](const RangeList &sorted) { encloseDisjointRanges(text, sorted, copy); },
+        [&](const RangeList &sorted) {
+            std::vector<char16_t> inserted;
+            carryOut(text, findOverlappingEnclosures(units(text).size(), sorted, copy, inserted));
+        });
 }
 
 } // namespace KZMutableStringExportAdditions

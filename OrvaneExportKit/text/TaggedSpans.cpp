@@ -1,7 +1,7 @@
 #include <OrvaneExportKit/text/TaggedSpans.h>
 
 #include <OrvaneExportKit/platform/LineRanges.h>
-#include <OrvaneExportKit/platform/TextUnits.h>
+#include <OrvaneExportKit/platform/UnitSearch.h>
 #include <OrvaneExportKit/text/Occurrences.h>
 #include <OrvaneExportKit/text/ParagraphMarks.h>
 
@@ -18,12 +18,16 @@ namespace {
 RangeList findLevelLines(std::u16string_view text, std::u16string_view levelString)
 {
     RangeList lines;
-    for (std::size_t at = findLiteral(text, levelString, 0); at != platform::notFound;
-         at = findLiteral(text, levelString, at + levelString.size())) {
-        if (at == 0 || text[at - 1] == u'\n') {
-            lines.push_back({at, platform::lineEnd(text, at + levelString.size() - 1) - at});
+    std::size_t next = 0;
+    platform::forEachLiteral(text, levelString, 0, text.size(), [&](std::size_t at) {
+        if (at < next) {
+            return;
         }
-    }
+        next = at + levelString.size();
+        if (at == 0 || text[at - 1] == u'\n') {
+            lines.push_back({at, platform::lineEnd(text, next - 1) - at});
+        }
+    });
     return lines;
 }
 
@@ -51,11 +55,16 @@ void deleteLevelMarks(Text &text, QStringView levelString)
     applyEdits(text, findLevelMarks(units(text), units(levelString)));
 }
 
-/// The next occurrence of a tag; "//" right after a colon, as in a web address, is stepped over.
+/// Whether the tag at `at` is no tag but the "//" of a web address, right after its colon.
+bool isInAddress(std::u16string_view text, std::u16string_view tag, std::size_t at)
+{
+    return tag == u"//" && at > 0 && text[at - 1] == u':';
+}
+
 std::size_t findTag(std::u16string_view text, std::u16string_view tag, std::size_t from)
 {
     std::size_t at = findLiteral(text, tag, from);
-    while (tag == u"//" && at != platform::notFound && at > 0 && text[at - 1] == u':') {
+    while (at != platform::notFound && isInAddress(text, tag, at)) {
         at = findLiteral(text, tag, at + tag.size());
     }
     return at;
@@ -80,6 +89,26 @@ RangeList findTagPairs(std::u16string_view text, std::u16string_view startTag, s
     }
 }
 
+/// The same where start and stop tag are one, in a single search.
+RangeList findPairsOfOneTag(std::u16string_view text, std::u16string_view tag)
+{
+    RangeList tags;
+    std::size_t next = 0;
+    platform::forEachLiteral(text, tag, 0, text.size(), [&](std::size_t at) {
+        if (at < next) {
+            return;
+        }
+        next = at + tag.size();
+        if (!isInAddress(text, tag, at)) {
+            tags.push_back({at, tag.size()});
+        }
+    });
+    if (tags.size() % 2 != 0) {
+        tags.pop_back();
+    }
+    return tags;
+}
+
 } // namespace
 
 namespace KZStringExportAdditions {
@@ -91,7 +120,8 @@ RangeList lineRangesForLevelString(QStringView text, QStringView levelString)
 
 RangeList rangesForStartTag(QStringView text, QStringView startTag, QStringView stopTag)
 {
-    return findTagPairs(units(text), units(startTag), units(stopTag));
+    return startTag == stopTag ? findPairsOfOneTag(units(text), units(startTag))
+                               : findTagPairs(units(text), units(startTag), units(stopTag));
 }
 
 } // namespace KZStringExportAdditions

@@ -1,29 +1,26 @@
 #include <OrvaneExportKit/text/Typography.h>
 
-#include <OrvaneExportKit/platform/TextUnits.h>
+#include <OrvaneExportKit/platform/UnitSearch.h>
+#include <OrvaneExportKit/text/FoundEdits.h>
 #include <OrvaneExportKit/text/Occurrences.h>
 
 using platform::AttributedString;
-using platform::units;
 
 namespace {
+
+constexpr char16_t straightApostrophe = u'\'';
+constexpr char16_t typographicApostrophe = u'\u2019';
 
 template <typename Text>
 void replaceAll(Text &text, std::u16string_view literal, std::u16string_view replacement)
 {
-    applyEdits(text, platform::findReplacements(units(text), literal, replacement));
+    platform::carryOutFound(text, platform::Replacements{literal, replacement});
 }
 
 template <typename Text>
 void replaceFullStops(Text &text)
 {
     replaceAll(text, u"...", u"\u2026");
-}
-
-template <typename Text>
-void replaceApostrophes(Text &text)
-{
-    replaceAll(text, u"'", u"\u2019");
 }
 
 template <typename Text>
@@ -43,7 +40,17 @@ void convertEllipses(QString &text)
 
 void correctApostrophes(QString &text)
 {
-    replaceApostrophes(text);
+    const std::u16string_view found = platform::units(text);
+    const std::size_t first = platform::findUnit(found, 0, platform::OneOf{straightApostrophe});
+    if (first == found.size()) {
+        return;
+    }
+    // Compilers write many units at once where every one is written, changed or not.
+    constexpr char16_t difference = straightApostrophe ^ typographicApostrophe;
+    auto *const units = reinterpret_cast<char16_t *>(text.data());
+    for (std::size_t index = first; index < found.size(); ++index) {
+        units[index] ^= static_cast<char16_t>(-int{units[index] == straightApostrophe} & difference);
+    }
 }
 
 void correctDashes(QString &text)
@@ -62,7 +69,7 @@ void convertEllipses(AttributedString &text)
 
 void correctApostrophes(AttributedString &text)
 {
-    replaceApostrophes(text);
+    replaceAll(text, {&straightApostrophe, 1}, {&typographicApostrophe, 1});
 }
 
 void correctDashes(AttributedString &text)

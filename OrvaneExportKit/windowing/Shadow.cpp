@@ -39,13 +39,14 @@ void drawShadow(QPainter &painter, const QRectF &rectangle, const Shadow &shadow
     // The blur of a rectangle is the product of the blurs of its two sides.
     const auto columns = blurredStrip(cast.left(), cast.right(), deviation, pixels.left(), pixels.width());
     const auto rows = blurredStrip(cast.top(), cast.bottom(), deviation, pixels.top(), pixels.height());
+    const QRgb color = shadow.color.rgba();
     QImage image(pixels.size(), QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < image.height(); ++y) {
         auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+        const double rowAlpha = qAlpha(color) * rows[std::size_t(y)];
         for (int x = 0; x < image.width(); ++x) {
-            QColor color = shadow.color;
-            color.setAlphaF(static_cast<float>(color.alphaF() * columns[std::size_t(x)] * rows[std::size_t(y)]));
-            line[x] = qPremultiply(color.rgba());
+            const int alpha = qRound(rowAlpha * columns[std::size_t(x)]);
+            line[x] = qPremultiply(qRgba(qRed(color), qGreen(color), qBlue(color), alpha));
         }
     }
     painter.drawImage(toPixels.inverted().mapRect(QRectF(pixels)), image);

@@ -1,47 +1,22 @@
 #include "ExportFiles.h"
 
 #include "AtomicFile.h"
-#include "HostError.h"
 #include "Messages.h"
+#include "PluginCalls.h"
 
 #include <OrvaneExportKit/platform/Paths.h>
 
-#include <exception>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace host {
 
-namespace {
-
-HostError pluginFailure(const ExportPlugin &plugin, const QString &part, const QString &reason)
-{
-    return {ExitCode::Plugin, Texts::tr("the plug-in %1 failed on %2: %3; change the document or the plug-in's "
-                                        "choices, and export again")
-                                  .arg(plugin.name(), part, reason)};
-}
-
-/// What the plug-in makes; an exception of its own becomes an error that names the part of the export.
-template <typename Make>
-QByteArray madeBy(const ExportPlugin &plugin, const QString &part, const Make &make)
-{
-    try {
-        return make();
-    } catch (const std::exception &exception) {
-        throw pluginFailure(plugin, part, printable(QString::fromUtf8(exception.what())));
-    } catch (...) {
-        throw pluginFailure(plugin, part, Texts::tr("it does not say why"));
-    }
-}
-
-} // namespace
-
 QByteArray exportedDocument(const ManuscriptDocument &document, const ExportPlugin &plugin)
 {
     const platform::AttributedString text = document.text();
-    return madeBy(plugin, Texts::tr("the document %1").arg(quoted(document.name())),
-                  [&] { return plugin.exportedData(document, text); });
+    return answerOf(plugin, Texts::tr("the document %1").arg(quoted(document.name())),
+                    [&] { return plugin.exportedData(document, text); });
 }
 
 ExportFiles::ExportFiles(const Manuscript &manuscript, const ExportPlugin &plugin, OutputPaths paths)
@@ -83,8 +58,8 @@ QByteArray ExportFiles::nextAdditionalContent() const
         documentFiles.append({&document, platform::lastPathComponent(m_paths.documents[documentFiles.size()])});
     }
     const QString name = platform::lastPathComponent(nextPath());
-    return madeBy(m_plugin, Texts::tr("the file %1").arg(quoted(name)),
-                  [&] { return m_plugin.additionalFileData(name, m_manuscript.title, documentFiles); });
+    return answerOf(m_plugin, Texts::tr("the file %1").arg(quoted(name)),
+                    [&] { return m_plugin.additionalFileData(name, m_manuscript.title, documentFiles); });
 }
 
 } // namespace host

@@ -77,8 +77,9 @@ private:
     const QString &m_folder;
 };
 
-void writeFiles(ExportFiles &files)
+void writeFiles(ExportFiles &files, const ExportPlugin &plugin)
 {
+    const CrashMessage crash;
     const InterruptionWatch interruptions;
     const ProgressLine progress;
     while (!files.allWritten()) {
@@ -87,6 +88,9 @@ void writeFiles(ExportFiles &files)
         }
         progress.show(
             u"%1/%2 %3"_s.arg(files.written().size() + 1).arg(files.count()).arg(printable(files.nextName())));
+        crash.set(
+            u"the plug-in %1 crashed on the document %2; the files before it are whole, this one is as it was; change the document or the plug-in's choices, and export again"_s
+                .arg(plugin.name(), quoted(files.nextName())));
         files.writeNext();
     }
 }
@@ -107,7 +111,7 @@ void runExport(const ExportRequest &request, const PluginFolder &plugins)
     const QString folder = destinationFolder(request.names);
     ExportFiles files(manuscript, plugin, paths);
     const ExportReport report(files, manuscript.title, folder);
-    writeFiles(files);
+    writeFiles(files, plugin);
 }
 
 } // namespace host

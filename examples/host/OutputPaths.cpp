@@ -2,6 +2,7 @@
 
 #include "HostError.h"
 #include "Messages.h"
+#include "PluginCalls.h"
 
 #include <OrvaneExportKit/platform/Paths.h>
 #include <OrvaneExportKit/run/FileNameChecks.h>
@@ -56,8 +57,10 @@ QStringList pathsByPattern(const OutputNames &names, const Manuscript &manuscrip
 
 QStringList additionalPaths(const QString &folder, const ExportPlugin &plugin)
 {
+    const QStringList names =
+        answerOf(plugin, Texts::tr("the names of its files"), [&] { return plugin.additionalFileNames(); });
     QStringList paths;
-    for (const QString &name : plugin.additionalFileNames()) {
+    for (const QString &name : names) {
         paths.append(platform::appendingPathComponent(folder, name));
     }
     return paths;

@@ -71,6 +71,15 @@ ExportPlugin *loadedPlugin(const QString &path)
     return plugin;
 }
 
+/// Asks a plug-in for all that it says of itself, so that one that fails on it is known before it is used.
+void requireAnswers(const ExportPlugin &plugin)
+{
+    plugin.name();
+    plugin.displayName();
+    plugin.pathExtension();
+    plugin.choices();
+}
+
 QStringList namesOf(const QList<ExportPlugin *> &plugins)
 {
     QStringList names;
@@ -120,6 +129,7 @@ void PluginFolder::add(const QString &file)
     QString reason = Texts::tr("it failed while it was loaded");
     try {
         ExportPlugin *plugin = loadedPlugin(file);
+        requireAnswers(*plugin);
         if (findPlugin(plugin->name()) == nullptr) {
             m_plugins.append(plugin);
             m_metadata.insert(plugin, QPluginLoader(file).metaData().value("MetaData"_L1).toObject());

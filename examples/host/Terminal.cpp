@@ -5,6 +5,7 @@
 #include <QtCore/QList>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -30,6 +31,23 @@ struct sigaction earlierTerminateAction = {};
 extern "C" void rememberInterruption(int /*signal*/)
 {
     interrupted = 1;
+}
+
+constexpr std::array crashSignals{SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT};
+
+// The line is kept ready, for nothing can be put together in a program that has crashed.
+std::array<char, 4096> crashLine = {};
+volatile std::sig_atomic_t crashLineLength = 0;
+
+// A stack for the handler alone: the crash may be that of a full stack.
+std::array<char, 65536> crashStack = {};
+
+extern "C" void reportCrash(int signal)
+{
+    const auto length = static_cast<std::size_t>(crashLineLength);
+    static_cast<void>(::write(STDERR_FILENO, crashLine.data(), length) < 0);
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
 }
 
 void write(std::FILE *stream, const QString &text)
@@ -150,6 +168,38 @@ InterruptionWatch::~InterruptionWatch()
 bool InterruptionWatch::wasInterrupted() const
 {
     return interrupted != 0;
+}
+
+CrashMessage::CrashMessage()
+{
+    stack_t stack = {};
+    stack.ss_sp = crashStack.data();
+    stack.ss_size = crashStack.size();
+    sigaltstack(&stack, nullptr);
+    struct sigaction action = {};
+    action.sa_handler = reportCrash;
+    action.sa_flags = SA_ONSTACK | SA_NODEFER;
+    for (const int signal : crashSignals) {
+        sigaction(signal, &action, nullptr);
+    }
+}
+
+CrashMessage::~CrashMessage()
+{
+    for (const int signal : crashSignals) {
+        std::signal(signal, SIG_DFL);
+    }
+    stack_t stack = {};
+    stack.ss_flags = SS_DISABLE;
+    sigaltstack(&stack, nullptr);
+}
+
+void CrashMessage::set(const QString &message) const
+{
+    const QByteArray line = (u"orvane-host: "_s + message + u'\n').toLocal8Bit().right(qsizetype{crashLine.size()});
+    crashLineLength = 0;
+    std::copy(line.begin(), line.end(), crashLine.begin());
+    crashLineLength = static_cast<std::sig_atomic_t>(line.size());
 }
 
 } // namespace host

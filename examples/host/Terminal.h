@@ -59,4 +59,18 @@ public:
     bool wasInterrupted() const;
 };
 
+/// While the object lives, a crash of the program writes a line to standard error before it ends the program. There is
+/// at most one such object.
+class CrashMessage
+{
+public:
+    CrashMessage();
+    CrashMessage(const CrashMessage &) = delete;
+    CrashMessage &operator=(const CrashMessage &) = delete;
+    ~CrashMessage();
+
+    /// Replaces the line, which says whose error it is.
+    void set(const QString &message) const;
+};
+
 } // namespace host

@@ -1,9 +1,11 @@
 #include <tests/end_to_end/HostTest.h>
+#include <tests/support/Faults.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtCore/QProcessEnvironment>
 
+#include <cerrno>
 #include <chrono>
 #include <random>
 #include <thread>
@@ -17,17 +19,32 @@ namespace {
 class Fault : public HostTest
 {
 protected:
-    /// Runs the export of the manuscript while the disk of the destination takes no more than so many bytes.
-    HostResult exportToFullDisk(int freeBytes) const
+    /// Runs the export of the manuscript while the system fails on the files below a folder.
+    HostResult exportMeeting(const QMap<QString, QString> &faults, const QString &folder) const
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"LD_PRELOAD"_s, fullDiskLibrary);
-        environment.insert(u"ASAN_OPTIONS"_s, u"verify_asan_link_order=0"_s);
-        environment.insert(u"ORVANE_FULL_DISK_FOLDER"_s, destination());
-        environment.insert(u"ORVANE_FULL_DISK_AFTER"_s, QString::number(freeBytes));
+        support::insertFaults(environment, folder, faults);
         QProcess process;
         process.setProcessEnvironment(environment);
         process.start(hostProgram, exportArguments({u"--yes"_s, u"--set"_s, u"line-length=0"_s}));
+        return finished(process);
+    }
+
+    /// Runs it while the disk of the destination takes no more than so many bytes.
+    HostResult exportToFullDisk(int freeBytes) const
+    {
+        return exportMeeting({{u"ROOM"_s, QString::number(freeBytes)}}, destination());
+    }
+
+    /// Exports with a plug-in that fails where the document or the environment asks for it.
+    HostResult exportByFailingPlugin(const QString &operation = {}) const
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"FAILING_OPERATION"_s, operation);
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(hostProgram, {u"export"_s, manuscript(), u"--plugin"_s, u"failing"_s, u"--to"_s, destination(),
+                                    u"--plugin-folder"_s, plugins(), u"--yes"_s});
         return finished(process);
     }
 };
@@ -66,6 +83,94 @@ TEST_F(Fault, DiskWithoutAnyRoomLeavesNoFile)
     const HostResult result = exportToFullDisk(0);
     EXPECT_TRUE(failedWith(4, {exported(u"001 One.txt"_s), u"No space left on device"_s}, result));
     EXPECT_EQ(filesIn(destination()), QStringList());
+}
+
+TEST_F(Fault, FullDiskAtAnyWriteKeepsOldFilesWhole)
+{
+    const QByteArray large(40000, '2');
+    writeManuscript({{u"One"_s, "1"}, {u"Two"_s, large}, {u"Three"_s, "3"}});
+    int failures = 0;
+    for (int writes = 0;; ++writes) {
+        SCOPED_TRACE(writes);
+        writeFile(exported(u"002 Two.txt"_s), "old");
+        const HostResult result = exportMeeting({{u"WRITES"_s, QString::number(writes)}}, destination());
+        if (result.exitCode == 0) {
+            break;
+        }
+        ASSERT_TRUE(result.errors.contains("can't be written: No space left on device; see to that and try again"_L1));
+        for (const QString &name : filesIn(destination())) {
+            const QByteArray content = fileContent(exported(name));
+            const QList<QByteArray> allowed{"1", "3", "old", large};
+            ASSERT_TRUE(allowed.contains(content)) << testing::PrintToString(name);
+        }
+        ++failures;
+    }
+    EXPECT_GE(failures, 3);
+    EXPECT_EQ(fileContent(exported(u"002 Two.txt"_s)), large);
+}
+
+TEST_F(Fault, WritesThatTakeAFewBytesEachGiveWholeFiles)
+{
+    const QByteArray large(3000, '2');
+    writeManuscript({{u"Two"_s, large}});
+    EXPECT_EQ(exportMeeting({{u"LONGEST_WRITE"_s, u"7"_s}}, destination()).exitCode, 0);
+    EXPECT_EQ(fileContent(exported(u"001 Two.txt"_s)), large);
+}
+
+TEST_F(Fault, FileThatCannotTakeItsPlaceLeavesTheOldOne)
+{
+    writeFile(exported(u"001 One.txt"_s), "old");
+    const HostResult result = exportMeeting({{u"RENAME"_s, QString::number(EACCES)}}, destination());
+    EXPECT_TRUE(failedWith(4, {exported(u"001 One.txt"_s), u"Permission denied; see to that and try again"_s}, result));
+    EXPECT_EQ(filesIn(destination()), QStringList{u"001 One.txt"_s});
+    EXPECT_EQ(fileContent(exported(u"001 One.txt"_s)), "old");
+    EXPECT_EQ(runExport({u"--yes"_s}).exitCode, 0);
+}
+
+TEST_F(Fault, DocumentThatVanishesWhileTheManuscriptIsReadIsNamedBeforeAnythingIsWritten)
+{
+    const HostResult result = exportMeeting({{u"VANISHED"_s, u"2.txt"_s}}, manuscript());
+    EXPECT_TRUE(
+        failedWith(2, {manuscript() + u"/2.txt"_s, u"can't be read: No such file or directory; check"_s}, result));
+    EXPECT_EQ(filesIn(destination()), QStringList());
+    EXPECT_EQ(runExport().exitCode, 0);
+}
+
+TEST_F(Fault, ClockThatIsSetBackOrForwardChangesNothing)
+{
+    for (const QString &seconds : {u"-100000000"_s, u"100000000"_s}) {
+        EXPECT_EQ(exportMeeting({{u"CLOCK"_s, seconds}}, destination()).exitCode, 0);
+        EXPECT_EQ(fileContent(exported(u"001 One.txt"_s)), "The first.");
+    }
+}
+
+TEST_F(Fault, PluginThatThrowsOutOfAnyOperationIsNamed)
+{
+    addTestPlugin(u"failing"_s);
+    EXPECT_TRUE(failedWith(3, {u"the plug-in failing failed on the names of its files: the ink has run out; "_s},
+                           exportByFailingPlugin(u"additionalFileNames"_s)));
+    for (const QString &operation : {u"pathExtension"_s, u"choices"_s}) {
+        EXPECT_TRUE(failedWith(3, {u"failing.so' can't be used: it failed while it was loaded: the ink has run out"_s},
+                               exportByFailingPlugin(operation)));
+    }
+    EXPECT_EQ(filesIn(destination()), QStringList());
+    EXPECT_EQ(exportByFailingPlugin().exitCode, 0);
+}
+
+TEST_F(Fault, PluginThatCrashesIsNamedAndLeavesWholeFilesOnly)
+{
+    addTestPlugin(u"failing"_s);
+    writeManuscript({{u"One"_s, "1"}, {u"Two"_s, "crash"}, {u"Three"_s, "3"}});
+    writeFile(exported(u"002 Two.txt"_s), "old");
+    const HostResult result = exportByFailingPlugin();
+    EXPECT_EQ(result.exitCode, -1);
+    EXPECT_TRUE(result.errors.contains("orvane-host: the plug-in failing crashed on the document 'Two'; "_L1))
+        << testing::PrintToString(result.errors);
+    EXPECT_EQ(filesIn(destination()), QStringList({u"001 One.txt"_s, u"002 Two.txt"_s}));
+    EXPECT_EQ(fileContent(exported(u"002 Two.txt"_s)), "old");
+    writeManuscript({{u"One"_s, "1"}, {u"Two"_s, "2"}});
+    EXPECT_EQ(exportByFailingPlugin().exitCode, 0);
+    EXPECT_EQ(fileContent(exported(u"002 Two.txt"_s)), "2");
 }
 
 TEST_F(Fault, KilledAtAnyMomentLeavesWholeFilesOnly)

@@ -9,7 +9,7 @@ const QString hostProgram = QStringLiteral(HOST_PROGRAM);
 const QString plainTextPlugin = QStringLiteral(PLAIN_TEXT_PLUGIN);
 const QString coreLibrary = QStringLiteral(CORE_LIBRARY);
 const QString testPluginFolder = QStringLiteral(TEST_PLUGIN_FOLDER);
-const QString fullDiskLibrary = QStringLiteral(FULL_DISK_LIBRARY);
+const QString faultsLibrary = QStringLiteral(FAULTS_LIBRARY);
 const QString manuscriptsFolder = QStringLiteral(MANUSCRIPTS_FOLDER);
 const QString expectedFolder = QStringLiteral(EXPECTED_FOLDER);
 

@@ -13,7 +13,7 @@ extern const QString hostProgram;
 extern const QString plainTextPlugin;
 extern const QString coreLibrary;
 extern const QString testPluginFolder;
-extern const QString fullDiskLibrary;
+extern const QString faultsLibrary;
 extern const QString manuscriptsFolder;
 extern const QString expectedFolder;
 

@@ -119,8 +119,8 @@ TEST_F(PluginFolder, TextFileNamedLikeALibrary)
 
 TEST_F(PluginFolder, LibraryThatIsNoPlugin)
 {
-    copyInto(plugins(), fullDiskLibrary);
-    EXPECT_TRUE(reportsBadFile(QFileInfo(fullDiskLibrary).fileName(), {u"it is no Qt plug-in"_s}));
+    copyInto(plugins(), faultsLibrary);
+    EXPECT_TRUE(reportsBadFile(QFileInfo(faultsLibrary).fileName(), {u"it is no Qt plug-in"_s}));
 }
 
 TEST_F(PluginFolder, DamagedPlugin)

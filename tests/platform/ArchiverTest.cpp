@@ -4,6 +4,7 @@
 
 #include <QtCore/QDataStream>
 #include <QtCore/QDate>
+#include <QtCore/QEasingCurve>
 #include <QtCore/QIODevice>
 #include <QtCore/QLocale>
 #include <QtCore/QPoint>
@@ -34,6 +35,21 @@ QVariantList nestedLists(int depth)
         list = QVariantList{QVariant(list)};
     }
     return list;
+}
+
+/// An archive of a value that no archiver writes.
+QByteArray forgedArchive(const QVariant &value)
+{
+    QByteArray bytes;
+    QDataStream bytesStream(&bytes, QIODevice::WriteOnly);
+    value.metaType().save(bytesStream, value.constData());
+    QByteArray field;
+    QDataStream fieldStream(&field, QIODevice::WriteOnly);
+    fieldStream << quint8(0) << QByteArray(value.typeName()) << bytes;
+    QByteArray archive = Archiver::archivedDataWithRootObject(true).left(6);
+    QDataStream stream(&archive, QIODevice::Append);
+    stream << quint64(field.size());
+    return archive + field;
 }
 
 TEST(Archiver, RestoresValuesOfManyTypes)
@@ -133,16 +149,14 @@ TEST(Archiver, RefusesOtherContainersOfAnything)
 
 TEST(Unarchiver, GivesNothingForAContainerOfAnythingThatNoArchiverWrites)
 {
-    QByteArray hash;
-    QDataStream hashStream(&hash, QIODevice::WriteOnly);
-    hashStream << QVariantHash{{u"a"_s, 1}};
-    QByteArray value;
-    QDataStream valueStream(&value, QIODevice::WriteOnly);
-    valueStream << quint8(0) << QByteArray("QVariantHash") << hash;
-    QByteArray archive = Archiver::archivedDataWithRootObject(true).left(6);
-    QDataStream stream(&archive, QIODevice::Append);
-    stream << quint64(value.size());
-    EXPECT_FALSE(Unarchiver::unarchiveObjectWithData(archive + value).isValid());
+    EXPECT_FALSE(Unarchiver::unarchiveObjectWithData(forgedArchive(QVariantHash{{u"a"_s, 1}})).isValid());
+    EXPECT_TRUE(Unarchiver::unarchiveObjectWithData(forgedArchive(QSize(3, 4))).isValid()) << "a sound forgery";
+}
+
+TEST(Archiver, RefusesATypeThatIsReadWithTheAddressOfAFunction)
+{
+    EXPECT_THROW(Archiver::archivedDataWithRootObject(QEasingCurve()), platform::InvalidArgumentException);
+    EXPECT_FALSE(Unarchiver::unarchiveObjectWithData(forgedArchive(QEasingCurve())).isValid());
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include <tests/reference/Generators.h>
 
+#include <OrvaneExportKit/platform/TextEditor.h>
+
 #include <algorithm>
 #include <limits>
 
@@ -78,7 +80,15 @@ std::u16string randomText(Random &random, const Pieces &pieces)
     }
     const std::size_t length = random.chance(2) ? random.between(200, 700) : random.between(0, 60);
     std::u16string text;
-    while (text.size() < length) {
+    if (random.between(0, 399) == 0) {
+        // Long texts are edited in blocks: what is random lies around the end of the first one.
+        const std::size_t filler = platform::unitsEditedAtOnce - random.between(0, 60);
+        while (text.size() < filler) {
+            text += u"x\n"sv;
+        }
+    }
+    const std::size_t whole = text.size() + length;
+    while (text.size() < whole) {
         text += random.oneOf(chosen);
     }
     return text;

@@ -1,15 +1,19 @@
 #include <OrvaneExportKit/platform/UserDefaults.h>
 #include <OrvaneExportKit/version.h>
 #include <tests/support/DefaultsFolder.h>
+#include <tests/support/Faults.h>
 #include <tests/support/Files.h>
 #include <tests/support/Printers.h>
 
 #include <gtest/gtest.h>
 
 #include <QtCore/QDateTime>
+#include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtCore/QProcessEnvironment>
 #include <QtCore/QTimeZone>
+
+#include <cerrno>
 
 using namespace Qt::Literals::StringLiterals;
 using platform::UserDefaults;
@@ -85,13 +89,10 @@ protected:
     }
 
     /// From now on, the program finds room for so many bytes in all folders of the test.
-    void fillDisk(int room)
-    {
-        environment.insert(u"LD_PRELOAD"_s, QStringLiteral(FULL_DISK_LIBRARY));
-        environment.insert(u"ASAN_OPTIONS"_s, u"verify_asan_link_order=0"_s);
-        environment.insert(u"ORVANE_FULL_DISK_FOLDER"_s, parentFolder());
-        environment.insert(u"ORVANE_FULL_DISK_AFTER"_s, QString::number(room));
-    }
+    void fillDisk(int room) { meet({{u"ROOM"_s, QString::number(room)}}); }
+
+    /// From now on, the program meets these faults in all folders of the test.
+    void meet(const QMap<QString, QString> &faults) { support::insertFaults(environment, parentFolder(), faults); }
 
     QString savedText() const { return QString::fromUtf8(support::fileContent(path(domainName))); }
 
@@ -382,6 +383,96 @@ TEST_F(DefaultsProgram, AFullDiskLeavesTheOldSettingsAndIsReported)
     EXPECT_TRUE(support::contains(writeWithRoom(shortText, 0).errors, u"make room on the disk"_s));
     EXPECT_TRUE(printed(writeWithRoom(shortText, 4000), QString()));
     EXPECT_EQ(savedDomain(domainName), (QVariantMap{{u"text"_s, shortText}}));
+}
+
+/// A program whose settings hold an old text, to be replaced by a new one while the system fails.
+class DefaultsProgramMeetingFaults : public DefaultsProgram
+{
+protected:
+    DefaultsProgramMeetingFaults() { set({{u"text"_s, u"old"_s}}); }
+
+    Result writeNewText() const { return run({u"write"_s, domainName, u"text"_s, newText}); }
+
+    const QString newText{5000, u'x'};
+};
+
+TEST_F(DefaultsProgramMeetingFaults, KeepsTheOldSettingsWhicheverWriteFindsTheDiskFull)
+{
+    const auto oldFiles = support::filesBelow(folder());
+    int failures = 0;
+    for (int writes = 0;; ++writes) {
+        SCOPED_TRACE(writes);
+        meet({{u"WRITES"_s, QString::number(writes)}});
+        const Result result = writeNewText();
+        if (result.exitCode == 0) {
+            break;
+        }
+        EXPECT_TRUE(failed(result, failure, u"make room on the disk"_s));
+        EXPECT_TRUE(support::contains(result.errors, path(domainName)));
+        ASSERT_EQ(support::filesBelow(folder()), oldFiles);
+        ++failures;
+    }
+    EXPECT_GE(failures, 2) << "the lock and the settings are written";
+    EXPECT_EQ(savedDomain(domainName), (QVariantMap{{u"text"_s, newText}}));
+}
+
+TEST_F(DefaultsProgramMeetingFaults, SavesInWritesThatTakeAFewBytesEach)
+{
+    meet({{u"LONGEST_WRITE"_s, u"7"_s}});
+    EXPECT_TRUE(printed(writeNewText(), QString()));
+    EXPECT_EQ(savedDomain(domainName), (QVariantMap{{u"text"_s, newText}}));
+}
+
+TEST_F(DefaultsProgramMeetingFaults, KeepsTheOldSettingsWhereTheNewFileCannotTakeTheirPlace)
+{
+    const auto oldFiles = support::filesBelow(folder());
+    meet({{u"RENAME"_s, QString::number(EACCES)}});
+    const Result result = writeNewText();
+    EXPECT_TRUE(failed(result, failure, path(domainName)));
+    EXPECT_TRUE(support::contains(result.errors, u"Permission denied"_s));
+    EXPECT_EQ(support::filesBelow(folder()), oldFiles);
+    environment.remove(u"LD_PRELOAD"_s);
+    EXPECT_TRUE(printed(writeNewText(), QString()));
+}
+
+TEST_F(DefaultsProgramMeetingFaults, SavesNothingWithoutALockFile)
+{
+    const auto oldFiles = support::filesBelow(folder());
+    meet({{u"LOCK_FILE"_s, QString::number(EIO)}});
+    EXPECT_TRUE(failed(writeNewText(), failure, u"no lock file can be written beside it; make room on the disk"_s));
+    EXPECT_EQ(support::filesBelow(folder()), oldFiles);
+    environment.remove(u"LD_PRELOAD"_s);
+    EXPECT_TRUE(printed(writeNewText(), QString()));
+}
+
+TEST_F(DefaultsProgramMeetingFaults, SavesWhereTheFileSystemKnowsNoLocks)
+{
+    meet({{u"LOCK"_s, u"none"_s}});
+    EXPECT_EQ(writeNewText().exitCode, 0);
+    EXPECT_EQ(savedDomain(domainName), (QVariantMap{{u"text"_s, newText}}));
+}
+
+TEST_F(DefaultsProgramMeetingFaults, SavesWhateverTheClockSays)
+{
+    constexpr int day = 24 * 60 * 60;
+    for (const int seconds : {-400 * day, -day, -3, 3, day, 400 * day}) {
+        meet({{u"CLOCK"_s, QString::number(seconds)}});
+        const QString text = u"at "_s + QString::number(seconds);
+        EXPECT_TRUE(printed(run({u"write"_s, domainName, u"text"_s, text}), QString())) << seconds;
+        EXPECT_EQ(savedDomain(domainName), (QVariantMap{{u"text"_s, text}})) << seconds;
+    }
+}
+
+TEST_F(DefaultsProgramMeetingFaults, RemovesTheUnfinishedLockOfAKilledProgramAlsoFromTheFuture)
+{
+    const QString lock = path(domainName) + u".lock"_s;
+    support::writeFile(lock, "");
+    QFile file(lock);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTime().addSecs(15), QFileDevice::FileModificationTime));
+    file.close();
+    EXPECT_EQ(writeNewText().exitCode, 0);
+    EXPECT_EQ(savedDomain(domainName), (QVariantMap{{u"text"_s, newText}}));
 }
 
 TEST_F(DefaultsProgram, AFullDiskLeavesTheOldExportAndIsReported)

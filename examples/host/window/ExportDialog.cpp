@@ -212,14 +212,21 @@ void ExportDialog::chooseFolder()
 void ExportDialog::checkNames()
 {
     m_pause.stop();
-    m_names->setPaths(outputPaths(names(), m_manuscript, plugin()).all());
-    const QString found = problem();
+    QString found;
+    try {
+        const OutputPaths paths = outputPaths(names(), m_manuscript, plugin());
+        m_names->setPaths(paths.all());
+        found = problem(paths);
+    } catch (const HostError &error) {
+        found = sentence(error.message());
+    }
     m_summary->setText(found.isEmpty() ? summary() : found);
     m_exportButton->setEnabled(found.isEmpty());
 }
 
-/// Why these files can't be written; empty when they can.
-QString ExportDialog::problem() const
+/// Why these files can't be written; empty when they can. Throws `HostError` for a reason that the window does not know
+/// better.
+QString ExportDialog::problem(const OutputPaths &paths) const
 {
     if (m_folder->text().isEmpty()) {
         return tr("Choose a folder for the files.");
@@ -227,12 +234,8 @@ QString ExportDialog::problem() const
     if (m_names->count(OutputNamesModel::Finding::Repeated) > 0) {
         return tr("Several documents would become the same file. Add “%1” to the file names.").arg(tr("Number"));
     }
-    try {
-        checkOutputPaths(names(), outputPaths(names(), m_manuscript, plugin()), m_manuscript);
-        return {};
-    } catch (const HostError &error) {
-        return sentence(error.message());
-    }
+    checkOutputPaths(names(), paths, m_manuscript);
+    return {};
 }
 
 QString ExportDialog::summary() const

@@ -44,7 +44,7 @@ private:
     void showFormat();
     void chooseFolder();
     void checkNames();
-    QString problem() const;
+    QString problem(const OutputPaths &paths) const;
     QString summary() const;
     void keepChoices() const;
 

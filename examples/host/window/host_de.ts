@@ -24,6 +24,10 @@
         <translation>das Plug-in %1 scheiterte an %2: %3; ändern Sie das Dokument oder die Einstellungen des Plug-ins, und exportieren Sie erneut</translation>
     </message>
     <message>
+        <source>the names of its files</source>
+        <translation>den Namen seiner Dateien</translation>
+    </message>
+    <message>
         <source>it does not say why</source>
         <translation>es sagt nicht, warum</translation>
     </message>

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <OrvaneExportKit/platform/TextEdits.h>
+#include <OrvaneExportKit/platform/TextUnits.h>
+
+#include <algorithm>
+
+namespace platform {
+
+/// Edits a text in place, from its start to its end. The buffer holds what is done at its front and what is still to
+/// come at its back; the gap between them takes up what edits make longer. Its destructor closes the gap, so the text
+/// is whole again, with the edits made so far, also when something throws on the way. A text that shares its storage is
+/// copied by the first edit.
+class TextEditor
+{
+public:
+    /// Begins at the start of `text`. `growth` is how much longer than the units before them edited ones may become at
+    /// any place, as far as that is known.
+    explicit TextEditor(QString &text, std::size_t growth = 0);
+    TextEditor(const TextEditor &) = delete;
+    TextEditor &operator=(const TextEditor &) = delete;
+    ~TextEditor();
+
+    /// The text as it was given. Only the units from `position()` on may be read, and only until the next `apply`.
+    std::u16string_view given() const { return {units(m_text).data() + m_shift, m_length}; }
+
+    /// Up to where the text is done, in units of the text as given.
+    std::size_t position() const { return m_position; }
+
+    /// Makes the edits that lie between `position()` and `next`, which becomes the position.
+    void apply(const TextEdits &edits, std::size_t next);
+
+private:
+    char16_t *buffer() { return reinterpret_cast<char16_t *>(m_text.data()); }
+    void makeRoom(std::size_t growth, std::size_t next);
+    void widenGap(std::size_t growth);
+
+    QString &m_text;
+    std::size_t m_length;       // of the text as given
+    std::size_t m_shift = 0;    // how far behind its first place each unit still to come stands
+    std::size_t m_position = 0; // of the first unit still to come, in the text as given
+    std::size_t m_done = 0;     // how many units at the front are done
+};
+
+/// How much longer edits make what stands before any place, at most.
+std::size_t growthByEdits(const TextEdits &edits);
+
+/// How many units are searched before what was found in them is edited: few enough to be still in the cache.
+inline constexpr std::size_t unitsEditedAtOnce = 1 << 14;
+
+/// Edits the text a block at a time. `find(text, from, until, edits)` appends the edits that begin from `from` to
+/// before `until`, those at the very end of the text included, and returns from where the next call goes on, `until` or
+/// behind it. It may look at units behind `until` but not at units before `from`.
+template <typename Find>
+void editInBlocks(QString &text, Find &&find)
+{
+    TextEditor editor(text);
+    const std::size_t length = editor.given().size();
+    TextEdits edits;
+    for (bool atEnd = false; !atEnd;) {
+        const std::size_t from = editor.position();
+        const std::size_t until = std::min(length, from + unitsEditedAtOnce);
+        atEnd = until == length;
+        edits.clear();
+        const std::size_t next = find(editor.given(), from, until, edits);
+        editor.apply(edits, next);
+    }
+}
+
+/// Appends the units of `text` from `position` to before `next` to `copy`, edited. `edits` lie there.
+void appendEdited(QString &copy, std::u16string_view text, std::size_t position, std::size_t next,
+                  const TextEdits &edits);
+
+/// An edited copy of the text. `find` is called as `editInBlocks` calls it.
+template <typename Find>
+QString editedCopy(std::u16string_view text, Find &&find)
+{
+    QString copy;
+    TextEdits edits;
+    std::size_t position = 0;
+    for (bool atEnd = false; !atEnd;) {
+        const std::size_t until = std::min(text.size(), position + unitsEditedAtOnce);
+        atEnd = until == text.size();
+        edits.clear();
+        const std::size_t next = find(text, position, until, edits);
+        appendEdited(copy, text, position, next, edits);
+        position = next;
+    }
+    return copy;
+}
+
+/// Makes all edits that `find` finds at once: for attributed text, and where edits only make the text longer.
+template <typename Text, typename Find>
+void editAtOnce(Text &text, Find &&find)
+{
+    TextEdits edits;
+    const std::u16string_view given = units(text);
+    find(given, 0, given.size(), edits);
+    applyEdits(text, edits);
+}
+
+} // namespace platform

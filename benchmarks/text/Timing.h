@@ -1,0 +1,53 @@
+#pragma once
+
+#include "PeakMemory.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QtCore/QString>
+
+#include <chrono>
+#include <vector>
+
+/// \file
+/// Times what is done to a text beside one memcpy of it.
+
+namespace timing {
+
+/// The length of the texts in the tables, in units.
+inline constexpr qsizetype fullSize = 4 * 1024 * 1024;
+
+using Clock = std::chrono::steady_clock;
+
+double secondsSince(Clock::time_point start);
+
+/// Copies the text into the storage of `own`, twice, and returns the seconds of the second time: one warm memcpy.
+double copyWarm(const QString &text, QString &own);
+
+/// What is measured beside the time, given out as counters: the median of the ratios to a memcpy, and the most memory
+/// that an operation held beyond its input and its result, in bytes a unit.
+class Measurements
+{
+public:
+    /// Times one call, whose text took `memcpySeconds` to copy.
+    template <typename Function>
+    void time(benchmark::State &state, double memcpySeconds, Function call)
+    {
+        const PeakMemory memory;
+        const Clock::time_point start = Clock::now();
+        call();
+        benchmark::ClobberMemory();
+        const double seconds = secondsSince(start);
+        m_extra = std::max(m_extra, memory.beyondResult());
+        state.SetIterationTime(seconds);
+        m_ratios.push_back(seconds / memcpySeconds);
+    }
+
+    void report(benchmark::State &state, qsizetype length) const;
+
+private:
+    std::vector<double> m_ratios;
+    std::size_t m_extra = 0;
+};
+
+} // namespace timing

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QtCore/QMap>
+#include <QtCore/QProcessEnvironment>
+#include <QtCore/QString>
+
+/// \file
+/// Faults of the system that a program meets while it works on the files below a folder.
+///
+/// | fault           | value                                                                                 |
+/// |-----------------|---------------------------------------------------------------------------------------|
+/// | `ROOM`          | how many bytes can still be written until the disk is full                            |
+/// | `WRITES`        | how many writes succeed until the disk is full                                        |
+/// | `LONGEST_WRITE` | how many bytes one write takes of those that it is given                              |
+/// | `RENAME`        | the number of the error that every renaming fails with                                |
+/// | `VANISHED`      | the end of the path of a file that is gone when it is opened                          |
+/// | `LOCK_FILE`     | the number of the error that every opening of a lock file fails with                  |
+/// | `LOCK`          | any: the file system knows no locks                                                   |
+/// | `CLOCK`         | by how many seconds the clock has been set forward, or back where that is negative    |
+
+namespace support {
+
+/// Lets a program with this environment meet the faults.
+inline void insertFaults(QProcessEnvironment &environment, const QString &folder, const QMap<QString, QString> &faults)
+{
+    environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(FAULTS_LIBRARY));
+    environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("verify_asan_link_order=0"));
+    environment.insert(QStringLiteral("ORVANE_FAULT_FOLDER"), folder);
+    for (auto fault = faults.begin(); fault != faults.end(); ++fault) {
+        environment.insert(QStringLiteral("ORVANE_FAULT_") + fault.key(), fault.value());
+    }
+}
+
+} // namespace support
