@@ -24,6 +24,7 @@ public:
     /// Makes itself the field's target, with the action `takeFont`. The field owns it.
     explicit FontTarget(KZFontNameTextField *field);
 
+    /// Stores and shows the name and the size of the font as the panel converts it.
     Q_INVOKABLE void takeFont(windowing::FontPanel *sender);
 
 private:

@@ -12,12 +12,13 @@
 /// parent; a content view that is deleted where it stands ends the edit of its own field only.
 ///
 ///     contentView->removeFromSuperview();
-///     settings.writeSettingsToDefaults(); // with the text that was being typed
+///     settings->writeSettingsToDefaults(); // with the text that was being typed
 class ORVANE_KIT_EXPORT KZContentView : public QWidget
 {
     Q_OBJECT
 
 public:
+    /// An empty view.
     explicit KZContentView(QWidget *parent = nullptr);
     ~KZContentView() override;
 

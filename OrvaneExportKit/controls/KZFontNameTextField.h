@@ -61,6 +61,7 @@ public:
     /// The name of the chosen font in documents, as `windowing::Font::fontName` gives it; null for none.
     QString selectedFontName() const { return m_selectedFontName; }
 
+    /// The size of the chosen font in points; 0 for none.
     float selectedFontSize() const { return m_selectedFontSize; }
 
     /// Each of them shows the values anew, also when they are the same.

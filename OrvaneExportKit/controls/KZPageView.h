@@ -48,6 +48,7 @@ public:
     /// stays.
     void encodeWithCoder(platform::Coder &coder) const;
 
+    /// Width and height of the paper, and the margins, in points.
     QSizeF paperSize() const { return m_paperSize; }
     float topMargin() const { return m_margins.top; }
     float leftMargin() const { return m_margins.left; }

@@ -35,9 +35,9 @@ public:
     static std::unique_ptr<KZTokenFieldDelegate>
     initWithRepresetedObjectsAndDisplayStrings(const QMap<QString, QString> &displayStrings);
 
-    // The columns of the table: the display string at an index belongs to the represented object at that index. They
-    // are to have the same length; a look-up that finds a string at an index that the other list lacks throws
-    // `platform::RangeException`.
+    /// The columns of the table: the display string at an index belongs to the represented object at that index. They
+    /// are to have the same length; a look-up that finds a string at an index that the other list lacks throws
+    /// `platform::RangeException`.
     const QStringList &displayStrings() const { return m_displayStrings; }
     void setDisplayStrings(const QStringList &displayStrings);
     const QStringList &representedObjects() const { return m_representedObjects; }

@@ -17,6 +17,7 @@ class ORVANE_KIT_EXPORT LengthField : public QDoubleSpinBox
     Q_OBJECT
 
 public:
+    /// A field that shows 0.
     explicit LengthField(QWidget *parent = nullptr);
 };
 

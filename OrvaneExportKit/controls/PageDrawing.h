@@ -13,10 +13,10 @@ namespace windowing {
 
 /// The margins of a page in points.
 struct PageMargins {
-    float top = 72.0F;
-    float left = 72.0F;
-    float right = 72.0F;
-    float bottom = 72.0F;
+    float top = 72.0F;    ///< from the upper edge of the paper
+    float left = 72.0F;   ///< from its left edge
+    float right = 72.0F;  ///< from its right edge
+    float bottom = 72.0F; ///< from its lower edge
 };
 
 /// Where a page view draws what, in its own units with y growing upward.
@@ -24,20 +24,21 @@ struct PageDrawing {
     /// The text area inside the margins: a line along its lower edge, then one along the right edge of what is left,
     /// then a tint over the rest.
     struct MarginBox {
-        QRectF bottomLine;
-        QRectF rightLine;
-        QRectF tinted;
+        QRectF bottomLine; ///< along the lower edge
+        QRectF rightLine;  ///< along the right edge, above the lower line
+        QRectF tinted;     ///< what the two lines leave
     };
 
     /// The free border around the fitted side of the paper.
     static constexpr double inset = 5.0;
 
+    /// What paper, lines, tint and shadow are drawn with.
     inline static const QColor paperColor = QColor::fromRgbF(0.97F, 0.97F, 0.97F);
     inline static const QColor lineColor = QColor::fromRgbF(2.0F / 3.0F, 2.0F / 3.0F, 2.0F / 3.0F);
     inline static const QColor tintColor = QColor::fromRgbF(0.6F, 0.6F, 0.6F, 0.2F);
     inline static const Shadow paperShadow{QSizeF(0.0, -2.5), 4.0};
 
-    QRectF paper;
+    QRectF paper;                       ///< the whole sheet
     std::optional<MarginBox> marginBox; ///< only where the margins leave room
 };
 

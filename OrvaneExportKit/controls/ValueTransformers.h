@@ -24,6 +24,7 @@ public:
     explicit KZMeasurementUnitTransformer(float factor);
     static std::unique_ptr<KZMeasurementUnitTransformer> initWithFactor(float factor);
 
+    /// The number of units in a point.
     float factor() const noexcept { return m_factor; }
     void setFactor(float factor) noexcept { m_factor = factor; }
 
@@ -47,6 +48,7 @@ private:
 class ORVANE_CORE_EXPORT KZLineHeightMultipleTransformer : public platform::ValueTransformer
 {
 public:
+    /// A transformer, owned by the caller.
     static std::unique_ptr<KZLineHeightMultipleTransformer> init();
 
     QMetaType transformedValueClass() const override { return QMetaType::fromType<float>(); }
@@ -64,6 +66,7 @@ public:
 class ORVANE_CORE_EXPORT KZEmptyStringTransformer : public platform::ValueTransformer
 {
 public:
+    /// A transformer, owned by the caller.
     static std::unique_ptr<KZEmptyStringTransformer> init();
 
     QMetaType transformedValueClass() const override { return QMetaType::fromType<QString>(); }
@@ -83,6 +86,7 @@ public:
 class ORVANE_CORE_EXPORT KZLocaleTransformer : public platform::ValueTransformer
 {
 public:
+    /// The second one is owned by the caller.
     KZLocaleTransformer();
     static std::unique_ptr<KZLocaleTransformer> init();
 

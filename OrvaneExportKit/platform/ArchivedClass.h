@@ -46,6 +46,7 @@ struct ArchivedClass {
 class ORVANE_CORE_EXPORT ArchivedClassRegistration
 {
 public:
+    /// Registers the class.
     explicit ArchivedClassRegistration(ArchivedClass archivedClass);
     ArchivedClassRegistration(const ArchivedClassRegistration &) = delete;
     ArchivedClassRegistration &operator=(const ArchivedClassRegistration &) = delete;

@@ -19,7 +19,7 @@ namespace platform {
 /// Writes a non-keyed archive: fields without names, one behind the other.
 ///
 ///     Archiver archiver;
-///     view.encodeWithCoder(archiver);
+///     pageView->encodeWithCoder(archiver);
 ///     const QByteArray data = archiver.archivedData();
 ///
 /// Writing throws `InvalidArgumentException` when a value, or one inside it, is of a type without stream operators or

@@ -30,8 +30,8 @@ struct ORVANE_CORE_EXPORT AttributedString {
 
     /// Some units and the attributes that they all carry.
     struct Stretch {
-        std::size_t length;
-        QVariantMap attributes;
+        std::size_t length;     ///< in UTF-16 code units
+        QVariantMap attributes; ///< of each of them
     };
 
     /// A text made of stretches, from its start to its end. Throws `InvalidArgumentException` when their lengths do not

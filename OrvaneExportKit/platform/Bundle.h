@@ -52,7 +52,10 @@ public:
     /// The kit's own bundle, whatever `bndlIdentifier` holds.
     static Bundle kitBundle();
 
+    /// Whether this is the null bundle.
     bool isNull() const { return m_identifier.isEmpty(); }
+
+    /// The identifier and the root that the bundle was made with; empty for the null bundle.
     const QString &identifier() const { return m_identifier; }
     const QString &resourceRoot() const { return m_resourceRoot; }
 
@@ -92,6 +95,7 @@ private:
 class ORVANE_CORE_EXPORT BundleRegistration
 {
 public:
+    /// Registers the bundle with this identifier and root.
     BundleRegistration(const QString &identifier, const QString &resourceRoot);
     BundleRegistration(const BundleRegistration &) = delete;
     BundleRegistration &operator=(const BundleRegistration &) = delete;

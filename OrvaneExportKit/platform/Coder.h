@@ -16,9 +16,9 @@ namespace platform {
 ///     void Margins::encodeWithCoder(platform::Coder &coder) const
 ///     {
 ///         if (coder.allowsKeyedCoding()) {
-///             coder.encodeFloat(m_top, u"top"_s);
+///             coder.encodeFloat(top, u"top"_s);
 ///         } else {
-///             coder.encodeValueOfObjCType("f", &m_top);
+///             coder.encodeValueOfObjCType("f", &top);
 ///         }
 ///     }
 ///

@@ -38,6 +38,7 @@ public:
     RangeException(const std::string &operation, Range range, std::size_t textLength);
     ~RangeException() override;
 
+    /// What the constructor was given.
     Range range() const noexcept { return m_range; }
     std::size_t textLength() const noexcept { return m_textLength; }
 

@@ -21,10 +21,12 @@
 
 namespace platform {
 
+/// The string for finite numbers: "{x, y}", "{width, height}" and "{{x, y}, {width, height}}".
 ORVANE_CORE_EXPORT QString stringFromPoint(QPointF point);
 ORVANE_CORE_EXPORT QString stringFromSize(QSizeF size);
 ORVANE_CORE_EXPORT QString stringFromRectangle(const QRectF &rectangle);
 
+/// What a string of these forms stands for; nothing for any other string.
 ORVANE_CORE_EXPORT std::optional<QPointF> pointFromString(QStringView string);
 ORVANE_CORE_EXPORT std::optional<QSizeF> sizeFromString(QStringView string);
 ORVANE_CORE_EXPORT std::optional<QRectF> rectangleFromString(QStringView string);

@@ -39,8 +39,8 @@ Q_SIGNALS:
 
 /// One object on a key path, and the key that it is asked for.
 struct KeyPathStep {
-    QObject *object;
-    QString key;
+    QObject *object; ///< not null
+    QString key;     ///< not empty
 };
 
 /// The objects that a key path leads through, the first one first; the keys behind the last of them are those of

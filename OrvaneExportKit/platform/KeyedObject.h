@@ -30,8 +30,10 @@ public:
     KeyedObject &operator=(const KeyedObject &);
     ~KeyedObject();
 
+    /// Whether this is no object.
     bool isNull() const { return m_archive == nullptr; }
 
+    /// The name of the class; empty for no object.
     QString className() const;
 
     /// The name of the class, then those of its superclasses, nearest first, as far as the archive holds them.
@@ -41,6 +43,7 @@ public:
     /// ..., and double the `$` that a name begins with.
     QStringList keys() const;
 
+    /// Whether the object has a field of this name, also one that refers to no object.
     bool containsValueForKey(const QString &key) const;
 
     /// The value of a field: an object as `KeyedUnarchiver` decodes it, a plain value that stands in the field, or a

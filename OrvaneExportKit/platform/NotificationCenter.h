@@ -14,7 +14,7 @@ namespace platform {
 
 /// What a notification center tells its observers.
 struct Notification {
-    QString name;
+    QString name;          ///< what has happened, as observers ask for it
     const QObject *object; ///< who posted it; null for nobody in particular
 };
 
@@ -36,12 +36,13 @@ private:
 /// Passes notifications from those who post them to those who observe them, without the two knowing each other.
 ///
 ///     const platform::Observation observation = platform::NotificationCenter::defaultCenter().addObserver(
-///         KZAbortExportNotification, &progress, [&](const platform::Notification &) { stop(); });
+///         KZAbortExportNotification, progressSheet, [&](const platform::Notification &) { stop(); });
 ///
 /// For use on the application's main thread.
 class ORVANE_CORE_EXPORT NotificationCenter
 {
 public:
+    /// What an observer does with a notification.
     using Handler = std::function<void(const Notification &)>;
 
     /// The one of the application.

@@ -24,7 +24,7 @@ public:
 
 /// Sets the panel that the kit asks; null for none. The caller keeps ownership and unsets it before destroying it.
 ///
-///     platform::setOpenPanel(&myPanel);
+///     platform::setOpenPanel(myPanel);
 ORVANE_CORE_EXPORT void setOpenPanel(OpenPanel *panel);
 
 /// The panel's required file type; empty when no panel is set.

@@ -42,6 +42,7 @@ namespace platform {
 /// Errors are values, one English sentence that begins with the place: line and column (in characters) of an XML list,
 /// the byte of a binary one, and, on writing, the keys and indices that lead to the value.
 struct ORVANE_CORE_EXPORT PropertyList {
+    /// The two formats of files.
     enum class Format {
         Xml,
         Binary,
@@ -49,7 +50,7 @@ struct ORVANE_CORE_EXPORT PropertyList {
 
     /// A reference into the object table of a keyed archive.
     struct Uid {
-        quint32 value = 0;
+        quint32 value = 0; ///< the index in the table
 
         friend bool operator==(Uid, Uid) = default;
     };
@@ -57,12 +58,14 @@ struct ORVANE_CORE_EXPORT PropertyList {
     /// How many arrays and dictionaries may stand inside each other, on reading and on writing.
     static constexpr int maximumNesting = 512;
 
+    /// What reading gives: a value or an error.
     struct ReadResult {
         std::optional<QVariant> value; ///< empty when the data is not a property list
         Format format = Format::Xml;   ///< the format found, or the one that the error was met in
         QString error;                 ///< empty when there is a value
     };
 
+    /// What writing gives: data or an error.
     struct WriteResult {
         std::optional<QByteArray> data; ///< empty when the value cannot be written
         QString error;                  ///< empty when there is data

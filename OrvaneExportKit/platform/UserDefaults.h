@@ -50,6 +50,7 @@ public:
     UserDefaults &operator=(const UserDefaults &) = delete;
     ~UserDefaults();
 
+    /// The folder that holds the domains.
     QString folder() const;
 
     /// The name of the application's domain: that of the application (`QCoreApplication::applicationName`) unless

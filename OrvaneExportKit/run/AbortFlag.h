@@ -8,8 +8,11 @@ namespace platform {
 /// Remembers that the user has asked to stop an export: that `KZAbortExportNotification` came from one progress sheet
 /// since the flag was made.
 ///
-///     const platform::AbortFlag abort(progress);
-///     for (std::size_t i = 0; i < documents.size() && !abort.isSet(); ++i) { ... progress.incrementToNextStep(); }
+///     const platform::AbortFlag abort(*progressSheet);
+///     for (qsizetype i = 0; i < documents.size() && !abort.isSet(); ++i) {
+///         write(*documents[i]);
+///         progressSheet->incrementToNextStep();
+///     }
 class ORVANE_CORE_EXPORT AbortFlag
 {
 public:
@@ -18,6 +21,7 @@ public:
     AbortFlag(const AbortFlag &) = delete;
     AbortFlag &operator=(const AbortFlag &) = delete;
 
+    /// Whether the user has asked to stop.
     bool isSet() const { return m_isSet; }
 
 private:

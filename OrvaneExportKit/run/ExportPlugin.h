@@ -39,7 +39,7 @@ public:
     /// A document and the name of the file that it became, without its folder.
     struct ExportedFile {
         const ExportDocument *document; ///< not null
-        QString fileName;
+        QString fileName;               ///< with its extension
     };
 
     ExportPlugin() = default;

@@ -23,9 +23,9 @@
 ///     KZExportProgress progress(documentWindow, static_cast<qint32>(documents.size()));
 ///     const platform::AbortFlag abort(progress);
 ///     progress.showSheet();
-///     for (std::size_t i = 0; i < documents.size() && !abort.isSet(); ++i) {
-///         progress.setDocumentName(documents[i].name());
-///         write(documents[i]);
+///     for (qsizetype i = 0; i < documents.size() && !abort.isSet(); ++i) {
+///         progress.setDocumentName(documents[i]->name());
+///         write(*documents[i]);
 ///         progress.incrementToNextStep();
 ///     }
 ///     progress.hideSheet();
@@ -66,8 +66,13 @@ public:
     /// Advances the bar by one step and redraws it. Does nothing at all when the last step has been taken.
     void incrementToNextStep();
 
+    /// The sheet itself, which the object owns.
     windowing::Panel *progressPanel() const { return m_progressPanel.get(); }
+
+    /// The steps that have been taken.
     quint32 currentStep() const { return m_currentStep; }
+
+    /// The steps of the whole run.
     quint32 maxSteps() const { return m_maxSteps; }
 
 private:

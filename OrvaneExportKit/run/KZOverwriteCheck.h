@@ -57,6 +57,7 @@ public:
     /// Hides the sheet and stops the modal loop with the code.
     void sheetDidEnd(QDialog *sheet, qint32 returnCode, void *contextInfo);
 
+    /// The sheet itself, which the object owns.
     windowing::Panel *overwritePanel() const { return m_overwritePanel.get(); }
 
 private:

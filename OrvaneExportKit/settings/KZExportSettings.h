@@ -79,9 +79,9 @@ public:
     /// something else than an archive.
     QVariant nonPropertyListObjectForKey(const QString &key) const;
 
-    // The scalar readers convert what is stored as `platform::floatValue` and its neighbours do: numbers as a C cast,
-    // strings by their leading decimal text, a missing key to zero. They throw
-    // `platform::UnrecognisedOperationException` for arrays, dictionaries, data and dates.
+    /// The scalar readers convert what is stored as `platform::floatValue` and its neighbours do: numbers as a C cast,
+    /// strings by their leading decimal text, a missing key to zero. They throw
+    /// `platform::UnrecognisedOperationException` for arrays, dictionaries, data and dates.
     float floatForKey(const QString &key) const;
     quint32 unsignedIntegerForKey(const QString &key) const;
     qint32 integerForKey(const QString &key) const;
@@ -99,7 +99,7 @@ public:
     /// `platform::InvalidArgumentException` also for a value that `platform::Archiver` cannot archive.
     void setNonPropertyListObject(const QVariant &value, const QString &key);
 
-    // The scalar writers store the number with exactly this type.
+    /// The scalar writers store the number with exactly this type.
     void setFloat(float value, const QString &key);
     void setUnsignedInteger(quint32 value, const QString &key);
     void setInteger(qint32 value, const QString &key);

@@ -29,8 +29,9 @@ ORVANE_CORE_EXPORT void deleteEmptyLines(QString &text);
 /// Breaks every line that is longer than `limit` units by a line feed, behind the last break character among its
 /// first `limit` units; spaces around the break vanish. The limit 4294967295 means no limit.
 ///
-/// Break characters are the units up to U+002F except `"`, `'` and `(`, those from U+003A to U+0040, `\`, `]`, `|`,
-/// `}` and `~`. What follows a break is looked at again as a line of its own. Three properties to know:
+/// Break characters are the units up to U+002F except U+0022, U+0027 and U+0028 (the straight quotation marks and the
+/// opening parenthesis), those from U+003A to U+0040, U+005C, U+005D and U+007C to U+007E. What follows a break is
+/// looked at again as a line of its own. Three properties to know:
 /// - A space right behind `limit` units is no place to break: at 3, "one two" becomes "o", "ne", "two".
 /// - A line without a break character among its first `limit` units is broken behind its first unit.
 /// - U+000D U+000A is two units, so a line that ends with it fits with one unit less.

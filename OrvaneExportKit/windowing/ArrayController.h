@@ -36,8 +36,8 @@ public:
     /// Adds a dictionary at the end.
     void addObject(const QVariantMap &object);
 
-    // Each of these changes one dictionary of the content, at an index that is there; a dictionary is also inserted
-    // behind the last one. One that moves has the index `toRow` afterwards.
+    /// Each of these changes one dictionary of the content, at an index that is there; a dictionary is also inserted
+    /// behind the last one. One that moves has the index `toRow` afterwards.
     void insertObject(int row, const QVariantMap &object);
     void setObject(int row, const QVariantMap &object);
     void removeObject(int row);

@@ -31,8 +31,8 @@ struct BindingOptions {
 /// What a value of a control is bound to.
 struct BindingInfo {
     QObject *observedObject; ///< the controller; null when it is gone
-    QString observedKeyPath;
-    BindingOptions options;
+    QString observedKeyPath; ///< from the controller on
+    BindingOptions options;  ///< as they were given
 };
 
 /// Ties one value of a control to a key path of a controller: the control shows the value and follows its changes, and
@@ -72,6 +72,7 @@ public:
             const BindingOptions &options = {});
     ~Binding() override;
 
+    /// What the binding was made with.
     QString name() const { return m_name; }
     BindingInfo info() const { return {m_controller, m_keyPath, m_options}; }
 

@@ -35,6 +35,7 @@ class ORVANE_KIT_EXPORT DictionaryTable : public QWidget
     Q_PROPERTY(QVariantList content READ content WRITE setContent NOTIFY contentChanged)
 
 public:
+    /// A table without columns and rows.
     explicit DictionaryTable(QWidget *parent = nullptr);
 
     /// The keys that the columns show, from left to right.
@@ -57,7 +58,7 @@ public:
     void setContent(const QVariantList &content);
 
 Q_SIGNALS:
-    void contentChanged();
+    void contentChanged(); ///< by the user or by `setContent`
 
 protected:
     void changeEvent(QEvent *event) override;

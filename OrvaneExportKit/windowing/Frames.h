@@ -13,7 +13,7 @@ ORVANE_KIT_EXPORT QRectF frameOf(const QWidget &widget);
 
 /// Gives a widget the smallest geometry around the frame, and remembers the frame.
 ///
-///     windowing::setFrame(field, {20.0, 20.0, 150.5, 22.0});
+///     windowing::setFrame(*field, {20.0, 20.0, 150.5, 22.0});
 ORVANE_KIT_EXPORT void setFrame(QWidget &widget, const QRectF &frame);
 
 } // namespace windowing

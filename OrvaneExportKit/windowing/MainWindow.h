@@ -12,7 +12,7 @@ ORVANE_KIT_EXPORT QWidget *mainWindow();
 
 /// Sets the main window; null leaves it to the window that is active. A window that is destroyed stops being it.
 ///
-///     windowing::setMainWindow(&documentWindow);
+///     windowing::setMainWindow(documentWindow);
 ORVANE_KIT_EXPORT void setMainWindow(QWidget *window);
 
 } // namespace windowing

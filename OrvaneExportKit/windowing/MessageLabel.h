@@ -15,6 +15,7 @@ class ORVANE_KIT_EXPORT MessageLabel : public QLabel
     Q_OBJECT
 
 public:
+    /// A label without text, of one line.
     explicit MessageLabel(QWidget *parent = nullptr);
 
     QSize minimumSizeHint() const override;

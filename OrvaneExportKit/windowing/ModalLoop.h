@@ -23,8 +23,8 @@ class ModalLoop;
 /// Modal dialogs that are opened meanwhile, such as message boxes, take input too. A window that is destroyed takes
 /// none any more.
 ///
-///     const auto session = windowing::ModalLoop::modalLoop().beginModalSessionForWindow(&panel);
-///     for (const Step &step : steps) { work(step); session->run(); }
+///     const auto session = windowing::ModalLoop::modalLoop().beginModalSessionForWindow(panel);
+///     for (const auto &step : steps) { work(step); session->run(); }
 ///     session->end();
 class ORVANE_KIT_EXPORT ModalSession
 {
@@ -43,6 +43,7 @@ public:
     /// Lets the other windows take input again.
     virtual void end();
 
+    /// Whether the session has not ended.
     bool isOpen() const;
 
 private:
@@ -60,14 +61,15 @@ private:
 /// A question that blocks the caller until it is answered:
 ///
 ///     ModalLoop &modalLoop = ModalLoop::modalLoop();
-///     modalLoop.beginSheet(&panel, documentWindow, [&](qint32 code) { modalLoop.stopModalWithCode(code); });
-///     const qint64 answer = modalLoop.runModalForWindow(&panel); // until something calls endSheet(&panel, code)
-///     panel.hide();
+///     modalLoop.beginSheet(panel, documentWindow, [&](qint32 code) { modalLoop.stopModalWithCode(code); });
+///     const qint64 answer = modalLoop.runModalForWindow(panel); // until something calls endSheet(panel, code)
+///     panel->hide();
 class ORVANE_KIT_EXPORT ModalLoop : public QObject
 {
     Q_OBJECT
 
 public:
+    /// What is called when a sheet has ended, with the code that it ended with.
     using SheetDidEnd = std::function<void(qint32 returnCode)>;
 
     /// The result of a loop that was stopped without an answer.

@@ -13,12 +13,13 @@ class ORVANE_KIT_EXPORT Panel : public QDialog
     Q_OBJECT
 
 public:
+    /// A panel without content, a sheet of `parent`.
     explicit Panel(QWidget *parent = nullptr);
 
     void reject() override;
 
 Q_SIGNALS:
-    void cancelRequested();
+    void cancelRequested(); ///< the user wants to cancel, by Escape or the close button
 };
 
 } // namespace windowing

@@ -22,9 +22,11 @@ public:
     /// The range is 0 to 100 at first, and the value 0.
     explicit ProgressIndicator(QWidget *parent = nullptr);
 
+    /// Where the bar is empty.
     double minValue() const { return m_minValue; }
     void setMinValue(double value);
 
+    /// Where the bar is full.
     double maxValue() const { return m_maxValue; }
     void setMaxValue(double value);
 

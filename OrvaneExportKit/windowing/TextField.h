@@ -24,21 +24,25 @@ class ORVANE_KIT_EXPORT TextField : public QLineEdit
     Q_PROPERTY(windowing::TextField::BezelStyle bezelStyle READ bezelStyle WRITE setBezelStyle DESIGNABLE true)
 
 public:
+    /// The frame around the field.
     enum class BezelStyle {
-        Square = 0, ///< the frame that the style draws around line edits
-        Rounded = 1,
+        Square = 0,  ///< the frame that the style draws around line edits
+        Rounded = 1, ///< a frame with round ends
     };
     Q_ENUM(BezelStyle)
 
+    /// An empty field, editable, with a square bezel.
     explicit TextField(QWidget *parent = nullptr);
 
     /// A number by which a program tells its fields apart; archives keep it.
     qint64 tag() const { return m_tag; }
     void setTag(qint64 tag) { m_tag = tag; }
 
+    /// Whether the user can change the text: the opposite of `readOnly`.
     bool isEditable() const { return !isReadOnly(); }
     void setEditable(bool editable) { setReadOnly(!editable); }
 
+    /// The frame around the field, `Square` at first.
     BezelStyle bezelStyle() const { return m_bezelStyle; }
     void setBezelStyle(BezelStyle style);
 

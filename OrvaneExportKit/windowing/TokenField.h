@@ -33,6 +33,7 @@ class ORVANE_KIT_EXPORT TokenField : public QWidget
     Q_PROPERTY(bool readOnly READ isReadOnly WRITE setReadOnly)
 
 public:
+    /// An empty field without a delegate.
     explicit TokenField(QWidget *parent = nullptr);
     ~TokenField() override;
 
@@ -46,14 +47,17 @@ public:
     /// What the user reads: the display strings of the tokens, and the texts between them.
     QString displayText() const;
 
+    /// Who tells tokens from text; null for nobody.
     TokenFieldDelegate *delegate() const { return m_delegate; }
 
     /// Whoever sets a delegate keeps it; without one, or when it is gone, all is text. The value is then shown anew.
     void setDelegate(TokenFieldDelegate *delegate);
 
+    /// What an empty field shows.
     QString placeholderText() const;
     void setPlaceholderText(const QString &text);
 
+    /// Whether the user can only read and copy.
     bool isReadOnly() const;
     void setReadOnly(bool readOnly);
 

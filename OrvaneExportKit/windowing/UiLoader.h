@@ -49,7 +49,8 @@ private:
 ///
 ///     const auto panel = windowing::UiLoader::load<QDialog>(platform::Bundle::kitBundle(), u"ExistingFiles"_s);
 ///     auto *infoField = windowing::UiLoader::outlet<QLabel>(*panel, u"infoField"_s);
-///     QObject::connect(windowing::UiLoader::outlet<QPushButton>(*panel, u"cancelButton"_s), ...);
+///     QObject::connect(windowing::UiLoader::outlet<QPushButton>(*panel, u"cancelButton"_s), &QPushButton::clicked,
+///                      [&] { infoField->clear(); });
 class ORVANE_KIT_EXPORT UiLoader
 {
 public:

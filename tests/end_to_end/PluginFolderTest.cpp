@@ -46,7 +46,7 @@ TEST_F(PluginFolder, ListShowsNamesExtensionMetadataAndChoices)
     const HostResult result = listPlugins();
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.errors, u""_s);
-    EXPECT_EQ(result.output, uR"(plain-text: Plain Text (.txt), version 0.1.0
+    EXPECT_EQ(result.output, uR"(plain-text: Plain Text (.txt), version 1.0.0
   UTF-8 text without any marks
   --set 'line-length=72'
       breaks lines that are longer (a number; 0 keeps long lines)

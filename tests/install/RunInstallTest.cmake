@@ -1,33 +1,5 @@
 # Run by CTest with the definitions that CMakeLists.txt passes.
-
-# Runs a command, which must succeed; what it writes to standard output is left in `output`.
-function(run)
-    execute_process(COMMAND ${ARGV} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE errors)
-    if(NOT result EQUAL 0)
-        list(JOIN ARGV " " command)
-        message(FATAL_ERROR "${command}\nended with ${result}\n${output}\n${errors}")
-    endif()
-    set(output "${output}" PARENT_SCOPE)
-endfunction()
-
-# Fails unless the text is the expected one.
-function(require_equal text expected)
-    if(NOT text STREQUAL expected)
-        message(FATAL_ERROR "This was expected:\n${expected}\nThis came:\n${text}")
-    endif()
-endfunction()
-
-# Configures and builds a project of this folder against the installed kit.
-function(build_project name)
-    run("${CMAKE_COMMAND}" -S "${CMAKE_CURRENT_LIST_DIR}/${name}" -B "${WORK_FOLDER}/${name}" -G "${GENERATOR}"
-        "-DCMAKE_CXX_COMPILER=${COMPILER}" "-DCMAKE_BUILD_TYPE=${BUILD_TYPE}" "-DCMAKE_CXX_FLAGS=${flags}"
-        "-DCMAKE_PREFIX_PATH=${kit};${QT_PREFIX}")
-    run("${CMAKE_COMMAND}" --build "${WORK_FOLDER}/${name}")
-endfunction()
-
-if(SANITIZE)
-    set(flags "-fsanitize=address,undefined")
-endif()
+include("${CMAKE_CURRENT_LIST_DIR}/Steps.cmake")
 
 # The kit must work wherever its folder is moved.
 file(REMOVE_RECURSE "${WORK_FOLDER}")
@@ -35,23 +7,54 @@ run("${CMAKE_COMMAND}" --install "${BUILD_FOLDER}" --prefix "${WORK_FOLDER}/firs
 set(kit "${WORK_FOLDER}/kit")
 file(RENAME "${WORK_FOLDER}/first-place" "${kit}")
 
+# Fails unless CMake refuses a version or a component of the package with this message.
+function(require_refusal version component message)
+    configuration(components "${WORK_FOLDER}/components" "-DVERSION=${version}" "-DCOMPONENT=${component}")
+    execute_process(COMMAND ${configure} RESULT_VARIABLE result OUTPUT_QUIET ERROR_VARIABLE errors)
+    string(REGEX REPLACE "[ \n]+" " " errors "${errors}")
+    string(FIND "${errors}" "${message}" place)
+    if(result EQUAL 0 OR place EQUAL -1)
+        message(FATAL_ERROR "This refusal was expected:\n${message}\nCMake ended with ${result}:\n${errors}")
+    endif()
+endfunction()
+require_refusal(1.0 Shiny "There is no component \"Shiny\"; the components are Core and OrvaneExportKit.")
+require_refusal(2.0 Core "compatible with requested version \"2.0\"")
+if(NOT WITH_WINDOWS)
+    require_refusal(1.0 OrvaneExportKit "The component OrvaneExportKit, the kit with windows, is not installed")
+endif()
+
+# By CMake's package.
 build_project(plugin)
 if(WITH_WINDOWS)
     build_project(windows)
     run("${CMAKE_COMMAND}" -E env QT_QPA_PLATFORM=offscreen "${WORK_FOLDER}/windows/kit-with-windows")
 endif()
 
-if(WITH_HOST)
-    set(host "${kit}/${PROGRAM_FOLDER}/orvane-host")
-    run("${host}" --list-plugins)
-    if(NOT output MATCHES "(^|\n)plain-text: ")
-        message(FATAL_ERROR "The installed program does not find its plug-ins; it lists:\n${output}")
-    endif()
+# By Qt Designer, whose plug-in finds the libraries of its own kit.
+if(WITH_DESIGNER)
+    run(ldd "${kit}/${LIBRARY_FOLDER}/qt6/plugins/designer/libOrvaneExportKitDesigner.so")
+    foreach(library IN ITEMS OrvaneExportKit OrvaneExportKitCore)
+        string(FIND "${output}" "lib${library}.so.1 => ${kit}/" place)
+        if(place EQUAL -1)
+            message(FATAL_ERROR "The plug-in for Qt Designer does not find ${library} beside it:\n${output}")
+        endif()
+    endforeach()
+endif()
 
-    file(MAKE_DIRECTORY "${WORK_FOLDER}/exported")
-    run("${host}" export "${CMAKE_CURRENT_LIST_DIR}/manuscript" --plugin upper-case --to "${WORK_FOLDER}/exported"
-        --plugin-folder "${WORK_FOLDER}/plugin")
-    require_equal("${output}" "${WORK_FOLDER}/exported/001 Only.upper\n")
-    file(READ "${WORK_FOLDER}/exported/001 Only.upper" exported)
-    require_equal("${exported}" "ONLY A FEW “WORDS”.\n")
+# By pkg-config.
+function(make target)
+    run("${CMAKE_COMMAND}" -E env "PKG_CONFIG_PATH=${kit}/${LIBRARY_FOLDER}/pkgconfig" "CXX=${COMPILER}"
+        "CXXFLAGS=${flags}" "SOURCES=${CMAKE_CURRENT_LIST_DIR}"
+        make -C "${WORK_FOLDER}/make" -f "${CMAKE_CURRENT_LIST_DIR}/make/Makefile" ${target})
+endfunction()
+file(MAKE_DIRECTORY "${WORK_FOLDER}/make")
+make(all)
+if(WITH_WINDOWS)
+    make(windows)
+    run("${CMAKE_COMMAND}" -E env QT_QPA_PLATFORM=offscreen "${WORK_FOLDER}/make/kit-with-windows")
+endif()
+
+if(WITH_HOST)
+    export_with("${WORK_FOLDER}/plugin")
+    export_with("${WORK_FOLDER}/make")
 endif()
