@@ -19,6 +19,12 @@ std::size_t expectedGrowth(std::size_t growth, std::size_t length, std::size_t r
 
 } // namespace
 
+void resizeExactly(QString &text, std::size_t size)
+{
+    text.reserve(static_cast<qsizetype>(size));
+    text.resize(static_cast<qsizetype>(size));
+}
+
 std::size_t growthByEdits(const TextEdits &edits)
 {
     std::ptrdiff_t growth = 0;
@@ -78,9 +84,7 @@ void TextEditor::makeRoom(std::size_t growth, std::size_t next)
 void TextEditor::widenGap(std::size_t growth)
 {
     const std::size_t kept = units(m_text).size();
-    const auto size = static_cast<qsizetype>(kept + growth);
-    m_text.reserve(size); // exactly, where resizing alone would take more
-    m_text.resize(size);
+    resizeExactly(m_text, kept + growth);
     char16_t *const start = buffer();
     std::copy_backward(start + m_shift + m_position, start + kept, start + kept + growth);
     m_shift += growth;
@@ -90,16 +94,18 @@ void appendEdited(QString &copy, std::u16string_view text, std::size_t position,
                   const TextEdits &edits)
 {
     const auto done = static_cast<std::size_t>(copy.size());
-    std::size_t added = next - position;
+    std::size_t size = done + next - position;
     for (const TextEdit &edit : edits) {
-        added = added - edit.range.length + edit.replacement.size();
+        size = size - edit.range.length + edit.replacement.size();
     }
-    if (copy.capacity() < static_cast<qsizetype>(done + added)) {
-        const std::size_t growth = added - std::min(added, next - position);
+    if (copy.capacity() < static_cast<qsizetype>(size)) {
+        const std::size_t unedited = done + next - position;
         const std::size_t rest = text.size() - next;
-        copy.reserve(static_cast<qsizetype>(done + added + rest + expectedGrowth(growth, next - position, rest)));
+        const std::size_t growth = expectedGrowth(size - std::min(size, unedited), next - position, rest);
+        const std::size_t whole = size + rest + growth;
+        copy.reserve(static_cast<qsizetype>(whole));
     }
-    copy.resize(static_cast<qsizetype>(done + added));
+    copy.resize(static_cast<qsizetype>(size));
     char16_t *target = reinterpret_cast<char16_t *>(copy.data()) + done;
     for (const TextEdit &edit : edits) {
         target = std::copy(text.data() + position, text.data() + edit.range.location, target);

@@ -42,6 +42,9 @@ private:
     std::size_t m_done = 0;     // how many units at the front are done
 };
 
+/// Makes the text `size` units long and lets it take no more memory than that needs, as growing alone would.
+void resizeExactly(QString &text, std::size_t size);
+
 /// How much longer edits make what stands before any place, at most.
 std::size_t growthByEdits(const TextEdits &edits);
 

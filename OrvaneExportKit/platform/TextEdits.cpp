@@ -15,9 +15,8 @@ bool makesShorter(const TextEdit &edit)
 void applyBackwards(QString &text, const TextEdits &edits, std::size_t growth)
 {
     std::size_t position = units(text).size();
-    const auto size = static_cast<qsizetype>(position + growth);
-    text.reserve(size); // exactly, where resizing alone would take more
-    text.resize(size);
+    const std::size_t size = position + growth;
+    resizeExactly(text, size);
     auto *const start = reinterpret_cast<char16_t *>(text.data());
     char16_t *target = start + size;
     for (auto edit = edits.rbegin(); edit != edits.rend(); ++edit) {

@@ -75,8 +75,8 @@ struct OneOf {
 template <typename... Units>
 OneOf(Units...) -> OneOf<sizeof...(Units)>;
 
-/// The kind of units in four ranges of ASCII and, where it is wanted, all units from U+007F on: a quick first sieve for
-/// a larger set of units, which lets some through that are not in the set.
+/// The kind of units in a few ranges of ASCII and, where it is wanted, all units from U+007F on: a quick first sieve
+/// for a larger set of units, which lets some through that are not in the set.
 template <std::size_t count>
 class AsciiSieve
 {
@@ -131,7 +131,7 @@ UnitMask plainMask(const char16_t *units, std::size_t count, const Kind &kind)
 {
     UnitMask mask = 0;
     for (std::size_t index = 0; index < count; ++index) {
-        mask |= UnitMask{static_cast<bool>(kind(units[index]))} << index;
+        mask |= UnitMask{kind(units[index]) ? 1U : 0U} << index;
     }
     return mask;
 }
@@ -245,7 +245,8 @@ Q_ALWAYS_INLINE UnitMask maskOfPairs(const char16_t *units, char16_t first, char
     if (first != second) {
         return firsts == 0 ? 0 : firsts & fullMask(units + 1, OneOf{second});
     }
-    return firsts & (firsts >> 1 | UnitMask{units[maskedUnits] == second} << (maskedUnits - 1));
+    const UnitMask nextBlock = units[maskedUnits] == second ? UnitMask{1} << (maskedUnits - 1) : 0;
+    return firsts & (firsts >> 1 | nextBlock);
 }
 
 /// Calls `visit(index)` for every place before `until` where the literal stands, overlapping ones included, from left

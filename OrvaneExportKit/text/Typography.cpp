@@ -49,7 +49,8 @@ void correctApostrophes(QString &text)
     constexpr char16_t difference = straightApostrophe ^ typographicApostrophe;
     auto *const units = reinterpret_cast<char16_t *>(text.data());
     for (std::size_t index = first; index < found.size(); ++index) {
-        units[index] ^= static_cast<char16_t>(-int{units[index] == straightApostrophe} & difference);
+        const int mask = units[index] == straightApostrophe ? -1 : 0;
+        units[index] ^= static_cast<char16_t>(mask & difference);
     }
 }
 

@@ -35,6 +35,7 @@ AsciiSieve<4> sieveFor(const UnitReplacements &replacements)
     }
     std::sort(wanted.begin(), wanted.end());
     std::vector<AsciiSieve<4>::Bounds> ranges;
+    ranges.reserve(wanted.size());
     for (const char16_t unit : wanted) {
         ranges.push_back({unit, unit});
     }
