@@ -36,9 +36,9 @@ ORVANE_CORE_EXPORT void deleteEmptyLines(QString &text);
 /// - A line without a break character among its first `limit` units is broken behind its first unit.
 /// - U+000D U+000A is two units, so a line that ends with it fits with one unit less.
 ///
-/// Throws `platform::RangeException` when the text begins with a space and its first line is too long but has no
-/// break character behind the leading spaces among its first `limit` units (for limit 0: when a text that is not
-/// empty begins with a space); the text is then left as it was, with one line feed appended.
+/// Throws `platform::RangeException` when the text begins with a space and its first line is too long but has no break
+/// character behind the leading spaces among its first `limit` units, for limit 0 always; it then only gets a line feed
+/// appended. Throws `std::bad_alloc` when the result does not fit into memory, perhaps with the first lines broken.
 ///
 ///     QString text = u"well-known words here"_s;
 ///     setMaxLineLength(text, 8);   // "well-\nknown\nwords\nhere"

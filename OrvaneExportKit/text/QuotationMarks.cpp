@@ -76,12 +76,24 @@ private:
     std::size_t m_word = 0;        // behind the white space that follows it
 };
 
+/// Marks of one unit take the places of straight ones. Longer ones need memory, so nothing is changed before all is
+/// found.
+template <typename Text>
+void convertMarks(Text &text, const MarkPair &marks)
+{
+    if (marks.start.size() <= 1 && marks.stop.size() <= 1) {
+        platform::carryOutFound(text, MarkFinder(marks));
+    } else {
+        platform::editAtOnce(text, MarkFinder(marks));
+    }
+}
+
 template <typename Text>
 void convertToStyle(Text &text, qint32 style)
 {
     const auto number = static_cast<quint32>(style);
     if (number < styles.size()) {
-        platform::carryOutFound(text, MarkFinder(styles[number]));
+        convertMarks(text, styles[number]);
     }
 }
 
@@ -92,7 +104,7 @@ void convertToLanguage(Text &text, const QString &language)
     const QString straight(straightMark);
     const QString start = marks.begin.value_or(straight);
     const QString stop = marks.end.value_or(straight);
-    platform::carryOutFound(text, MarkFinder({units(start), units(stop)}));
+    convertMarks(text, {units(start), units(stop)});
 }
 
 } // namespace
@@ -104,7 +116,7 @@ void convertQuotationsToStart(QString &text, QStringView start, QStringView stop
     // The marks may be views of the very text that is changed.
     const std::u16string startMark(units(start));
     const std::u16string stopMark(units(stop));
-    platform::carryOutFound(text, MarkFinder({startMark, stopMark}));
+    convertMarks(text, {startMark, stopMark});
 }
 
 void convertQuotationsToType(QString &text, qint32 style)
