@@ -1,4 +1,5 @@
-// What the operations consist of at least: reading the text, writing it, and moving its pieces together. Names are limit/WHAT/UNITS.
+// What the operations consist of at least: reading the text, writing it, and moving its pieces together. Names are
+// limit/WHAT/UNITS.
 
 #include "Texts.h"
 #include "Timing.h"
