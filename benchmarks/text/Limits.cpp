@@ -4,6 +4,8 @@
 #include "Texts.h"
 #include "Timing.h"
 
+#include <OrvaneExportKit/platform/UnitSearch.h>
+
 #include <cstring>
 #include <functional>
 
@@ -15,6 +17,16 @@ using namespace Qt::Literals::StringLiterals;
 void searchInVain(QString &text)
 {
     benchmark::DoNotOptimize(text.indexOf(u'\x01'));
+}
+
+/// The kit's search for a unit that is not there, through the whole text, or as often through a piece of it that stays
+/// in the cache.
+void searchPieces(std::size_t pieceLength, QString &text)
+{
+    const std::u16string_view units = platform::units(text);
+    for (std::size_t at = 0; at < units.size(); at += pieceLength) {
+        benchmark::DoNotOptimize(platform::findUnit(units.substr(0, pieceLength), 0, platform::OneOf{u'\x01'}));
+    }
 }
 
 /// Writes every unit where it stands.
@@ -59,6 +71,9 @@ void add(const QString &name, const std::function<void(QString &)> &work)
 
 [[maybe_unused]] const bool registered = [] {
     add(u"searching in vain for one unit with QString::indexOf"_s, searchInVain);
+    add(u"searching in vain for one unit, as the kit does"_s,
+        std::bind_front(searchPieces, static_cast<std::size_t>(timing::fullSize)));
+    add(u"the same, 256 times in the first 16 Ki units"_s, std::bind_front(searchPieces, std::size_t{1} << 14));
     add(u"writing each unit in its place"_s, rewriteAll);
     add(u"moving the text, one piece"_s, std::bind_front(movePieces, std::size_t{1}));
     add(u"moving the text, 4700 pieces"_s, std::bind_front(movePieces, std::size_t{4'700}));
