@@ -49,8 +49,8 @@ void correctApostrophes(QString &text)
     constexpr char16_t difference = straightApostrophe ^ typographicApostrophe;
     auto *const units = reinterpret_cast<char16_t *>(text.data());
     for (std::size_t index = first; index < found.size(); ++index) {
-        const int mask = units[index] == straightApostrophe ? -1 : 0;
-        units[index] ^= static_cast<char16_t>(mask & difference);
+        const char16_t mask = units[index] == straightApostrophe ? u'\uFFFF' : u'\0';
+        units[index] = static_cast<char16_t>(units[index] ^ (mask & difference));
     }
 }
 
