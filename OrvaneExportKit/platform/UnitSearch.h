@@ -264,16 +264,19 @@ void forEachLiteral(std::u16string_view text, std::u16string_view literal, std::
         forEachUnit(text.substr(0, until), from, first, visit);
         return;
     }
-    const auto visitIfWhole = [&](std::size_t at) {
-        if (text.substr(at + 1).starts_with(literal.substr(1))) {
+    const auto visitIfWhole = [&](std::size_t at, std::size_t known) {
+        if (literal.size() == known || text.substr(at + known).starts_with(literal.substr(known))) {
             visit(at);
         }
     };
+    const auto visitPair = [&](std::size_t at) {
+        visitIfWhole(at, 2);
+    };
     std::size_t at = from;
     for (; at + maskedUnits <= until; at += maskedUnits) {
-        forEachBit(maskOfPairs(text.data() + at, literal[0], literal[1]), at, visitIfWhole);
+        forEachBit(maskOfPairs(text.data() + at, literal[0], literal[1]), at, visitPair);
     }
-    forEachUnit(text.substr(0, until), at, first, visitIfWhole);
+    forEachUnit(text.substr(0, until), at, first, [&](std::size_t place) { visitIfWhole(place, 1); });
 }
 
 } // namespace platform
