@@ -40,6 +40,14 @@ bool isUnsafe(const QByteArray &typeName)
     return std::any_of(names.begin(), names.end(), [&](const char *name) { return typeName.contains(name); });
 }
 
+/// Whether the value has more bytes than Qt's streams count.
+bool isTooLarge(const QVariant &value)
+{
+    constexpr qsizetype most = std::numeric_limits<int>::max();
+    return (value.metaType() == QMetaType::fromType<QByteArray>() && value.toByteArray().size() > most) ||
+           (value.metaType() == QMetaType::fromType<QString>() && value.toString().size() > most / 2);
+}
+
 /// Archives have the least significant byte first, whatever the machine does.
 void toArchiveOrder(char *bytes, std::size_t size)
 {
@@ -59,7 +67,8 @@ public:
 
     void append(const Writer &other)
     {
-        if (other.m_data.size() > std::numeric_limits<int>::max()) {
+        // Qt writes no value that is larger, and says so in the status alone.
+        if (other.m_stream.status() != QDataStream::Ok || other.m_data.size() > std::numeric_limits<int>::max()) {
             throw InvalidArgumentException("encodeObject: a value takes more than 2147483647 bytes");
         }
         m_stream.writeRawData(other.m_data.constData(), static_cast<int>(other.m_data.size()));
@@ -113,6 +122,9 @@ private:
         if (!value.isValid() || isUnsafe(value.typeName()) || !value.metaType().save(stream, value.constData())) {
             throw InvalidArgumentException(std::string("encodeObject: a value of type ") +
                                            (value.isValid() ? value.typeName() : "nothing") + " cannot be archived");
+        }
+        if (stream.status() != QDataStream::Ok || isTooLarge(value)) {
+            throw InvalidArgumentException("encodeObject: a value takes more than 2147483647 bytes");
         }
         m_stream << quint8(Kind::Other) << QByteArray(value.typeName()) << bytes;
     }
