@@ -5,6 +5,7 @@ cd "$(dirname "$0")/.."
 . scripts/packages.sh
 
 install_packages "${build_packages[@]}"
+mkdir -p build
 cmake --preset release -B build/demo -DORVANE_BUILD_TESTS=OFF -DCMAKE_CXX_COMPILER_LAUNCHER=ccache >build/demo.log
 cmake --build build/demo
 

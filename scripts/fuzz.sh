@@ -15,6 +15,7 @@ target=$1
 seconds=$2
 
 install_packages "${build_packages[@]}" "${test_packages[@]}"
+mkdir -p build
 cmake -S . -B build/fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ \
     -DCMAKE_CXX_COMPILER_LAUNCHER=ccache -DORVANE_BUILD_FUZZERS=ON -DORVANE_SANITIZE=ON >build/fuzz.log
 cmake --build build/fuzz --target "fuzz_$target"
