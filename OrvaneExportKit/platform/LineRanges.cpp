@@ -12,20 +12,18 @@ bool isInsidePair(std::u16string_view text, std::size_t index)
     return index > 0 && index < text.size() && text[index - 1] == u'\r' && text[index] == u'\n';
 }
 
-struct LineTerminators {
+using LineTerminators = OneOf<u'\n', u'\r', u'\u0085', u'\u2028', u'\u2029'>;
+
+/// The line terminators and some units more, which are quicker to tell from the rest.
+struct PossibleTerminators {
+    static constexpr bool asBytes = true;
+
     template <typename Units>
-    constexpr auto operator()(Units units) const
+    Q_ALWAYS_INLINE constexpr auto operator()(Units units) const
     {
-        return OneOf{u'\n', u'\r', u'\u0085'}(units) | isWithin(units, u'\u2028', u'\u2029');
+        return isWithin(units, u'\n', u'\r') | isOutside(units, u'\0', u'\x7E');
     }
 };
-
-/// Most blocks of a text in ASCII are done with when no control character stands in them.
-UnitMask fullMask(const char16_t *units, const LineTerminators &terminators)
-{
-    static constexpr AsciiSieve<1> candidates({{{u'\n', u'\r'}}}, true);
-    return platform::fullMask(units, candidates) == 0 ? 0 : platform::fullMask<LineTerminators>(units, terminators);
-}
 
 std::size_t lineStart(std::u16string_view text, std::size_t index)
 {
@@ -37,7 +35,10 @@ std::size_t lineStart(std::u16string_view text, std::size_t index)
 
 std::size_t lineEnd(std::u16string_view text, std::size_t index) noexcept
 {
-    index = findUnit(text, index, LineTerminators());
+    index = findUnit(text, index, PossibleTerminators());
+    if (index < text.size() && !isLineTerminator(text[index])) {
+        index = findUnit(text, index, LineTerminators());
+    }
     if (index == text.size()) {
         return index;
     }

@@ -10,6 +10,29 @@ char16_t *moved(const char16_t *first, const char16_t *last, char16_t *target)
     return target == first ? target + (last - first) : std::copy(first, last, target);
 }
 
+/// Writes the replacement at `target` and returns its end. Most are a single unit, for which a call would cost more
+/// than the copy.
+char16_t *written(std::u16string_view replacement, char16_t *target)
+{
+    if (replacement.size() == 1) {
+        *target = replacement.front();
+        return target + 1;
+    }
+    return std::copy(replacement.begin(), replacement.end(), target);
+}
+
+/// Writes the units of `given` from `from` to before `next`, edited, at `target` and returns its end.
+char16_t *writeEdited(const char16_t *given, std::size_t from, std::size_t next, const TextEdits &edits,
+                      char16_t *target)
+{
+    for (const TextEdit &edit : edits) {
+        target = moved(given + from, given + edit.range.location, target);
+        target = written(edit.replacement, target);
+        from = edit.range.end();
+    }
+    return moved(given + from, given + next, target);
+}
+
 /// How much longer the `rest` of a text becomes if it grows as the `length` units before it did, at most by its length.
 std::size_t expectedGrowth(std::size_t growth, std::size_t length, std::size_t rest)
 {
@@ -59,14 +82,8 @@ void TextEditor::apply(const TextEdits &edits, std::size_t next)
     }
     makeRoom(growthByEdits(edits), next);
     char16_t *const start = buffer();
-    const char16_t *source = start + m_shift + m_position;
-    char16_t *target = start + m_done;
-    for (const TextEdit &edit : edits) {
-        target = moved(source, start + m_shift + edit.range.location, target);
-        target = std::copy(edit.replacement.begin(), edit.replacement.end(), target);
-        source = start + m_shift + edit.range.end();
-    }
-    m_done = static_cast<std::size_t>(moved(source, start + m_shift + next, target) - start);
+    char16_t *const target = writeEdited(start + m_shift, m_position, next, edits, start + m_done);
+    m_done = static_cast<std::size_t>(target - start);
     m_position = next;
 }
 
@@ -90,29 +107,29 @@ void TextEditor::widenGap(std::size_t growth)
     m_shift += growth;
 }
 
-void appendEdited(QString &copy, std::u16string_view text, std::size_t position, std::size_t next,
-                  const TextEdits &edits)
+void CopyEditor::apply(const TextEdits &edits, std::size_t next)
 {
-    const auto done = static_cast<std::size_t>(copy.size());
-    std::size_t size = done + next - position;
+    const auto done = static_cast<std::size_t>(m_copy.size());
+    std::size_t size = done + next - m_position;
     for (const TextEdit &edit : edits) {
         size = size - edit.range.length + edit.replacement.size();
     }
-    if (copy.capacity() < static_cast<qsizetype>(size)) {
-        const std::size_t unedited = done + next - position;
-        const std::size_t rest = text.size() - next;
-        const std::size_t growth = expectedGrowth(size - std::min(size, unedited), next - position, rest);
+    makeRoom(size, next);
+    m_copy.resize(static_cast<qsizetype>(size));
+    writeEdited(m_given.data(), m_position, next, edits, reinterpret_cast<char16_t *>(m_copy.data()) + done);
+    m_position = next;
+}
+
+/// Makes room for `size` units up to `next`, and for the rest of the text if it grows likewise.
+void CopyEditor::makeRoom(std::size_t size, std::size_t next)
+{
+    if (m_copy.capacity() < static_cast<qsizetype>(size)) {
+        const std::size_t unedited = static_cast<std::size_t>(m_copy.size()) + next - m_position;
+        const std::size_t rest = m_given.size() - next;
+        const std::size_t growth = expectedGrowth(size - std::min(size, unedited), next - m_position, rest);
         const std::size_t whole = size + rest + growth;
-        copy.reserve(static_cast<qsizetype>(whole));
+        m_copy.reserve(static_cast<qsizetype>(whole));
     }
-    copy.resize(static_cast<qsizetype>(size));
-    char16_t *target = reinterpret_cast<char16_t *>(copy.data()) + done;
-    for (const TextEdit &edit : edits) {
-        target = std::copy(text.data() + position, text.data() + edit.range.location, target);
-        target = std::copy(edit.replacement.begin(), edit.replacement.end(), target);
-        position = edit.range.end();
-    }
-    std::copy(text.data() + position, text.data() + next, target);
 }
 
 } // namespace platform

@@ -42,6 +42,30 @@ private:
     std::size_t m_done = 0;     // how many units at the front are done
 };
 
+/// Makes an edited copy of a text, from its start to its end.
+class CopyEditor
+{
+public:
+    explicit CopyEditor(std::u16string_view given) : m_given(given) {}
+
+    std::u16string_view given() const { return m_given; }
+
+    /// Up to where the text is copied, in units of the text as given.
+    std::size_t position() const { return m_position; }
+
+    /// Appends the units from `position()` to before `next`, which becomes the position, edited.
+    void apply(const TextEdits &edits, std::size_t next);
+
+    QString takeCopy() { return std::move(m_copy); }
+
+private:
+    void makeRoom(std::size_t size, std::size_t next);
+
+    std::u16string_view m_given;
+    std::size_t m_position = 0;
+    QString m_copy;
+};
+
 /// Makes the text `size` units long and lets it take no more memory than that needs, as growing alone would.
 void resizeExactly(QString &text, std::size_t size);
 
@@ -55,13 +79,12 @@ inline constexpr std::size_t unitsEditedAtOnce = 64; // short inputs are to reac
 inline constexpr std::size_t unitsEditedAtOnce = 1 << 14;
 #endif
 
-/// Edits the text a block at a time. `find(text, from, until, edits)` appends the edits that begin from `from` to
+/// Lets an editor work a block at a time. `find(text, from, until, edits)` appends the edits that begin from `from` to
 /// before `until`, those at the very end of the text included, and returns from where the next call goes on, `until` or
 /// behind it. It may look at units behind `until` but not at units before `from`.
-template <typename Find>
-void editInBlocks(QString &text, Find &&find)
+template <typename Editor, typename Find>
+void runEditor(Editor &editor, Find &&find)
 {
-    TextEditor editor(text);
     const std::size_t length = editor.given().size();
     TextEdits edits;
     for (bool atEnd = false; !atEnd;) {
@@ -74,26 +97,21 @@ void editInBlocks(QString &text, Find &&find)
     }
 }
 
-/// Appends the units of `text` from `position` to before `next` to `copy`, edited. `edits` lie there.
-void appendEdited(QString &copy, std::u16string_view text, std::size_t position, std::size_t next,
-                  const TextEdits &edits);
+/// Edits the text a block at a time. `find` is called as `runEditor` calls it.
+template <typename Find>
+void editInBlocks(QString &text, Find &&find)
+{
+    TextEditor editor(text);
+    runEditor(editor, find);
+}
 
-/// An edited copy of the text. `find` is called as `editInBlocks` calls it.
+/// An edited copy of the text.
 template <typename Find>
 QString editedCopy(std::u16string_view text, Find &&find)
 {
-    QString copy;
-    TextEdits edits;
-    std::size_t position = 0;
-    for (bool atEnd = false; !atEnd;) {
-        const std::size_t until = std::min(text.size(), position + unitsEditedAtOnce);
-        atEnd = until == text.size();
-        edits.clear();
-        const std::size_t next = find(text, position, until, edits);
-        appendEdited(copy, text, position, next, edits);
-        position = next;
-    }
-    return copy;
+    CopyEditor editor(text);
+    runEditor(editor, find);
+    return editor.takeCopy();
 }
 
 /// Makes all edits that `find` finds at once: for attributed text, and where edits only make the text longer.

@@ -26,8 +26,8 @@ struct TextEdit {
 /// cost is one pass however many places there are.
 using TextEdits = std::vector<TextEdit>;
 
-/// Carries out a whole edit list in one pass: in place where no edit makes the text longer, otherwise into one new
-/// allocation of the exact size.
+/// Carries out a whole edit list in one pass, in place. The storage of a text that becomes longer on the way grows
+/// once, by just what is missing.
 ///
 /// The replacements must not view `text` itself. Throws `RangeException` when an edit reaches past the end and
 /// `InvalidArgumentException` when the list is not ascending or overlaps, both before anything is changed; throws

@@ -10,13 +10,17 @@
 #include <cstdint>
 #include <string_view>
 
-#if defined(__SSE2__)
+#if defined(__SSE2__) && !defined(ORVANE_PLAIN_SEARCH)
+#define ORVANE_SEARCH_WITH_SSE2
 #include <emmintrin.h>
 #endif
 
 /// \file
 /// Searches for single units and short literals at the speed of memory: the one place that knows how a processor looks
-/// at many units at once. A *kind* says which units are wanted; it is written once and works on one unit and on eight.
+/// at many units at once. A *kind* says which units are wanted; it is written once and works on one unit and on many.
+/// Its constant `asBytes` says that it need not tell the units from U+007F on apart: then units are looked at as bytes,
+/// twice as many at once. Where the processor's instructions are missing, or `ORVANE_PLAIN_SEARCH` is defined, it looks
+/// at one after the other.
 
 namespace platform {
 
@@ -26,54 +30,104 @@ using UnitMask = std::uint64_t;
 /// How many units one mask covers.
 inline constexpr std::size_t maskedUnits = 64;
 
-#if defined(__SSE2__)
-/// Eight units side by side, or eight answers about them, all bits set where the answer is yes.
-struct EightUnits {
-    __m128i lanes;
-
-    static EightUnits at(const char16_t *units) { return {_mm_loadu_si128(reinterpret_cast<const __m128i *>(units))}; }
-    static EightUnits all(char16_t unit) { return {_mm_set1_epi16(static_cast<short>(unit))}; }
-
-    friend EightUnits operator==(EightUnits units, char16_t unit)
-    {
-        return {_mm_cmpeq_epi16(units.lanes, all(unit).lanes)};
-    }
-    friend EightUnits operator|(EightUnits a, EightUnits b) { return {_mm_or_si128(a.lanes, b.lanes)}; }
-};
-
-/// Whether each unit lies from `first` to `last`.
-inline EightUnits isWithin(EightUnits units, char16_t first, char16_t last)
-{
-    const __m128i offset = _mm_sub_epi16(units.lanes, EightUnits::all(first).lanes);
-    const __m128i beyond = _mm_subs_epu16(offset, EightUnits::all(static_cast<char16_t>(last - first)).lanes);
-    return {_mm_cmpeq_epi16(beyond, _mm_setzero_si128())};
-}
-#endif
-
-/// 1 when the unit lies from `first` to `last`, else 0: an answer that `|` joins with others, as it does those above.
+/// 1 when the unit lies from `first` to `last`, else 0: an answer that `|` joins with others, as it does those below.
 constexpr unsigned isWithin(char16_t unit, char16_t first, char16_t last)
 {
     return first <= unit && unit <= last ? 1 : 0;
 }
 
-/// The kind of units that equal one of a few.
-template <std::size_t count>
-struct OneOf {
-    std::array<char16_t, count> wanted;
+/// 1 when the unit lies before `first` or behind `last`, else 0.
+constexpr unsigned isOutside(char16_t unit, char16_t first, char16_t last)
+{
+    return 1 - isWithin(unit, first, last);
+}
 
-    template <typename Units>
-    constexpr auto operator()(Units units) const
+#if defined(ORVANE_SEARCH_WITH_SSE2)
+/// Eight units side by side, or eight answers about them, all bits set where the answer is yes.
+struct EightUnits {
+    __m128i lanes;
+
+    Q_ALWAYS_INLINE static EightUnits at(const char16_t *units)
     {
-        auto found = units == wanted[0];
-        for (std::size_t index = 1; index < count; ++index) {
-            found = found | (units == wanted[index]);
-        }
-        return found;
+        return {_mm_loadu_si128(reinterpret_cast<const __m128i *>(units))};
+    }
+    Q_ALWAYS_INLINE static EightUnits all(char16_t unit) { return {_mm_set1_epi16(static_cast<short>(unit))}; }
+
+    Q_ALWAYS_INLINE friend EightUnits operator==(EightUnits units, char16_t unit)
+    {
+        return {_mm_cmpeq_epi16(units.lanes, all(unit).lanes)};
+    }
+    Q_ALWAYS_INLINE friend EightUnits operator|(EightUnits a, EightUnits b) { return {_mm_or_si128(a.lanes, b.lanes)}; }
+};
+
+/// Sixteen units side by side, as bytes, or answers about them. What lies from U+007F on becomes 0x7F or more.
+struct SixteenUnits {
+    __m128i lanes;
+
+    Q_ALWAYS_INLINE static SixteenUnits at(const char16_t *units)
+    {
+        return {_mm_packs_epi16(EightUnits::at(units).lanes, EightUnits::at(units + 8).lanes)};
+    }
+    Q_ALWAYS_INLINE static SixteenUnits all(int byte) { return {_mm_set1_epi8(static_cast<char>(byte))}; }
+
+    Q_ALWAYS_INLINE friend SixteenUnits operator==(SixteenUnits units, char16_t unit)
+    {
+        return {_mm_cmpeq_epi8(units.lanes, all(unit).lanes)};
+    }
+    Q_ALWAYS_INLINE friend SixteenUnits operator|(SixteenUnits a, SixteenUnits b)
+    {
+        return {_mm_or_si128(a.lanes, b.lanes)};
     }
 };
 
-template <typename... Units>
-OneOf(Units...) -> OneOf<sizeof...(Units)>;
+/// How far each unit lies from the stretch from `first` to `last`, 0 inside it. The stretch may go on from 0xFF to 0.
+Q_ALWAYS_INLINE __m128i distance(SixteenUnits units, int first, int last)
+{
+    const __m128i offset = _mm_sub_epi8(units.lanes, SixteenUnits::all(first).lanes);
+    return _mm_subs_epu8(offset, SixteenUnits::all(last - first).lanes);
+}
+
+Q_ALWAYS_INLINE SixteenUnits isWithin(SixteenUnits units, char16_t first, char16_t last)
+{
+    return {_mm_cmpeq_epi8(distance(units, first, last), _mm_setzero_si128())};
+}
+
+Q_ALWAYS_INLINE SixteenUnits isOutside(SixteenUnits units, char16_t first, char16_t last)
+{
+    return {_mm_cmpeq_epi8(distance(units, last + 1, first - 1), _mm_setzero_si128())};
+}
+#endif
+
+/// Whether the unit keeps its value where units are looked at as bytes.
+constexpr bool fitsByte(char16_t unit)
+{
+    return unit < 0x7F;
+}
+
+/// The kind of units that equal one of a few.
+template <char16_t... wanted>
+struct OneOf {
+    static constexpr bool asBytes = (fitsByte(wanted) && ...);
+
+    template <typename Units>
+    Q_ALWAYS_INLINE constexpr auto operator()(Units units) const
+    {
+        return ((units == wanted) | ...);
+    }
+};
+
+/// The kind of units that equal one that only the running program knows.
+template <bool fits>
+struct Exactly {
+    static constexpr bool asBytes = fits;
+    char16_t wanted;
+
+    template <typename Units>
+    Q_ALWAYS_INLINE constexpr auto operator()(Units units) const
+    {
+        return units == wanted;
+    }
+};
 
 /// The kind of units in a few ranges of ASCII and, where it is wanted, all units from U+007F on: a quick first sieve
 /// for a larger set of units, which lets some through that are not in the set.
@@ -81,6 +135,8 @@ template <std::size_t count>
 class AsciiSieve
 {
 public:
+    static constexpr bool asBytes = true;
+
     struct Bounds {
         char16_t first;
         char16_t last;
@@ -96,31 +152,21 @@ public:
         const auto holdsUnit = [unit](const Bounds &range) {
             return isWithin(unit, range.first, range.last) != 0;
         };
-        return unit >= 0x7F ? m_withOthers : std::any_of(m_ranges.begin(), m_ranges.end(), holdsUnit);
+        return fitsByte(unit) ? std::any_of(m_ranges.begin(), m_ranges.end(), holdsUnit) : m_withOthers;
     }
 
-#if defined(__SSE2__)
-    /// One bit a unit for sixteen units, as bytes: what is beyond ASCII becomes 0x7F or more.
-    Q_ALWAYS_INLINE friend UnitMask maskOfSixteen(const char16_t *units, const AsciiSieve &sieve)
+#if defined(ORVANE_SEARCH_WITH_SSE2)
+    Q_ALWAYS_INLINE SixteenUnits operator()(SixteenUnits units) const
     {
-        const __m128i bytes = _mm_packs_epi16(EightUnits::at(units).lanes, EightUnits::at(units + 8).lanes);
-        __m128i misses = sieve.m_withOthers ? _mm_subs_epu8(allBytes(0x7F), bytes) : allBytes(0xFF);
-        for (const Bounds &range : sieve.m_ranges) {
-            const __m128i offset = _mm_sub_epi8(bytes, allBytes(range.first));
-            misses = _mm_min_epu8(misses, _mm_subs_epu8(offset, allBytes(range.last - range.first)));
+        __m128i closest = m_withOthers ? distance(units, 0x7F, 0xFF) : SixteenUnits::all(0xFF).lanes;
+        for (const Bounds &range : m_ranges) {
+            closest = _mm_min_epu8(closest, distance(units, range.first, range.last));
         }
-        return static_cast<UnitMask>(_mm_movemask_epi8(_mm_cmpeq_epi8(misses, _mm_setzero_si128())));
+        return {_mm_cmpeq_epi8(closest, _mm_setzero_si128())};
     }
 #endif
 
 private:
-#if defined(__SSE2__)
-    static __m128i allBytes(int byte)
-    {
-        return _mm_set1_epi8(static_cast<char>(byte));
-    }
-#endif
-
     std::array<Bounds, count> m_ranges;
     bool m_withOthers;
 };
@@ -136,12 +182,17 @@ UnitMask plainMask(const char16_t *units, std::size_t count, const Kind &kind)
     return mask;
 }
 
-#if defined(__SSE2__)
+#if defined(ORVANE_SEARCH_WITH_SSE2)
 /// One bit a unit for sixteen units.
 template <typename Kind>
 Q_ALWAYS_INLINE UnitMask maskOfSixteen(const char16_t *units, const Kind &kind)
 {
-    const __m128i answers = _mm_packs_epi16(kind(EightUnits::at(units)).lanes, kind(EightUnits::at(units + 8)).lanes);
+    __m128i answers;
+    if constexpr (Kind::asBytes) {
+        answers = kind(SixteenUnits::at(units)).lanes;
+    } else {
+        answers = _mm_packs_epi16(kind(EightUnits::at(units)).lanes, kind(EightUnits::at(units + 8)).lanes);
+    }
     return static_cast<UnitMask>(_mm_movemask_epi8(answers));
 }
 
@@ -178,14 +229,6 @@ UnitMask partialMask(const char16_t *units, std::size_t count, const Kind &kind)
     return index == count ? mask : mask | plainMask(units + index, count - index, kind) << index;
 }
 
-/// The mask of the units from `at` on, 64 of them or as many as there are.
-template <typename Kind>
-UnitMask maskAt(std::u16string_view text, std::size_t at, const Kind &kind)
-{
-    const std::size_t count = text.size() - at;
-    return count >= maskedUnits ? fullMask(text.data() + at, kind) : partialMask(text.data() + at, count, kind);
-}
-
 /// Calls `visit(index)` for each bit that is set, from the lowest to the highest; the lowest bit stands for `start`.
 template <typename Visit>
 void forEachBit(UnitMask mask, std::size_t start, Visit &visit)
@@ -195,16 +238,37 @@ void forEachBit(UnitMask mask, std::size_t start, Visit &visit)
     }
 }
 
+/// Moves `at` on by 64 units until `maskAt(at)` is not empty, and returns that mask, or an empty one when no 64 units
+/// are left before `until`.
+template <typename MaskAt>
+Q_ALWAYS_INLINE UnitMask nextMask(std::size_t &at, std::size_t until, MaskAt maskAt)
+{
+    for (; at + maskedUnits <= until; at += maskedUnits) {
+        if (const UnitMask mask = maskAt(at)) {
+            return mask;
+        }
+    }
+    return 0;
+}
+
+/// The same for the masks of a kind, from `at` to the end of the text.
+template <typename Kind>
+Q_ALWAYS_INLINE UnitMask nextMaskOf(std::u16string_view text, std::size_t &at, const Kind &kind)
+{
+    const auto maskAt = [&](std::size_t place) {
+        return fullMask(text.data() + place, kind);
+    };
+    const UnitMask mask = nextMask(at, text.size(), maskAt);
+    return mask == 0 && at < text.size() ? partialMask(text.data() + at, text.size() - at, kind) : mask;
+}
+
 /// Calls `visit(index)` for every unit of the kind in the text, from left to right.
 template <typename Kind, typename Visit>
 void forEachUnit(std::u16string_view text, std::size_t from, const Kind &kind, Visit visit)
 {
-    std::size_t at = from;
-    for (; at + maskedUnits <= text.size(); at += maskedUnits) {
-        forEachBit(fullMask(text.data() + at, kind), at, visit);
-    }
-    if (at < text.size()) {
-        forEachBit(partialMask(text.data() + at, text.size() - at, kind), at, visit);
+    for (std::size_t at = from; at < text.size(); at += maskedUnits) {
+        const UnitMask mask = nextMaskOf(text, at, kind);
+        forEachBit(mask, at, visit);
     }
 }
 
@@ -212,14 +276,8 @@ void forEachUnit(std::u16string_view text, std::size_t from, const Kind &kind, V
 template <typename Kind>
 std::size_t findUnit(std::u16string_view text, std::size_t from, const Kind &kind)
 {
-    std::size_t at = from;
-    for (; at + maskedUnits <= text.size(); at += maskedUnits) {
-        if (const UnitMask mask = fullMask(text.data() + at, kind)) {
-            return at + static_cast<std::size_t>(std::countr_zero(mask));
-        }
-    }
-    const UnitMask mask = at < text.size() ? partialMask(text.data() + at, text.size() - at, kind) : 0;
-    return mask == 0 ? text.size() : at + static_cast<std::size_t>(std::countr_zero(mask));
+    const UnitMask mask = nextMaskOf(text, from, kind);
+    return mask == 0 ? text.size() : from + static_cast<std::size_t>(std::countr_zero(mask));
 }
 
 /// The index behind the last unit of the kind that stands from `from` to before `until`, or `from`.
@@ -239,14 +297,43 @@ std::size_t findBehindLastUnit(std::u16string_view text, std::size_t from, std::
 }
 
 /// The mask of the units among 64 that equal `first` and stand before one that equals `second`. Reads 65 units.
-Q_ALWAYS_INLINE UnitMask maskOfPairs(const char16_t *units, char16_t first, char16_t second)
+template <typename Kind>
+Q_ALWAYS_INLINE UnitMask maskOfPairs(const char16_t *units, const Kind &first, const Kind &second)
 {
-    const UnitMask firsts = fullMask(units, OneOf{first});
-    if (first != second) {
-        return firsts == 0 ? 0 : firsts & fullMask(units + 1, OneOf{second});
+    const UnitMask firsts = fullMask(units, first);
+    if (first.wanted != second.wanted) {
+        return firsts == 0 ? 0 : firsts & fullMask(units + 1, second);
     }
-    const UnitMask nextBlock = units[maskedUnits] == second ? UnitMask{1} << (maskedUnits - 1) : 0;
+    const UnitMask nextBlock = units[maskedUnits] == second.wanted ? UnitMask{1} << (maskedUnits - 1) : 0;
     return firsts & (firsts >> 1 | nextBlock);
+}
+
+/// `forEachLiteral` for a literal whose units fit bytes, or for any other.
+template <bool fits, typename Visit>
+void forEachLiteralOf(std::u16string_view text, std::u16string_view literal, std::size_t from, std::size_t until,
+                      Visit &visit)
+{
+    const auto visitIfWhole = [&](std::size_t at, std::size_t known) {
+        if (literal.size() == known || text.substr(at + known).starts_with(literal.substr(known))) {
+            visit(at);
+        }
+    };
+    const Exactly<fits> first{literal.front()};
+    std::size_t at = from;
+    if (literal.size() > 1) {
+        const Exactly<fits> second{literal[1]};
+        const auto visitPair = [&](std::size_t place) {
+            visitIfWhole(place, 2);
+        };
+        const auto maskAt = [&](std::size_t place) {
+            return maskOfPairs(text.data() + place, first, second);
+        };
+        while (const UnitMask mask = nextMask(at, until, maskAt)) {
+            forEachBit(mask, at, visitPair);
+            at += maskedUnits;
+        }
+    }
+    forEachUnit(text.substr(0, until), at, first, [&](std::size_t place) { visitIfWhole(place, 1); });
 }
 
 /// Calls `visit(index)` for every place before `until` where the literal stands, overlapping ones included, from left
@@ -259,24 +346,25 @@ void forEachLiteral(std::u16string_view text, std::u16string_view literal, std::
         return;
     }
     until = std::min(until, text.size() - literal.size() + 1);
-    const OneOf first{literal.front()};
-    if (literal.size() == 1) {
-        forEachUnit(text.substr(0, until), from, first, visit);
-        return;
+    if (std::all_of(literal.begin(), literal.end(), fitsByte)) {
+        forEachLiteralOf<true>(text, literal, from, until, visit);
+    } else {
+        forEachLiteralOf<false>(text, literal, from, until, visit);
     }
-    const auto visitIfWhole = [&](std::size_t at, std::size_t known) {
-        if (literal.size() == known || text.substr(at + known).starts_with(literal.substr(known))) {
+}
+
+/// The same for the places from the left that do not overlap.
+template <typename Visit>
+void forEachOccurrence(std::u16string_view text, std::u16string_view literal, std::size_t from, std::size_t until,
+                       Visit visit)
+{
+    std::size_t next = from;
+    forEachLiteral(text, literal, from, until, [&](std::size_t at) {
+        if (at >= next) {
+            next = at + literal.size();
             visit(at);
         }
-    };
-    const auto visitPair = [&](std::size_t at) {
-        visitIfWhole(at, 2);
-    };
-    std::size_t at = from;
-    for (; at + maskedUnits <= until; at += maskedUnits) {
-        forEachBit(maskOfPairs(text.data() + at, literal[0], literal[1]), at, visitPair);
-    }
-    forEachUnit(text.substr(0, until), at, first, [&](std::size_t place) { visitIfWhole(place, 1); });
+    });
 }
 
 } // namespace platform

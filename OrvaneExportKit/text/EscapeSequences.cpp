@@ -31,7 +31,7 @@ public:
     std::size_t operator()(std::u16string_view text, std::size_t from, std::size_t until, TextEdits &edits)
     {
         std::size_t next = until;
-        platform::forEachUnit(text.substr(0, until), from, platform::OneOf{u'\\'}, [&](std::size_t at) {
+        platform::forEachUnit(text.substr(0, until), from, platform::OneOf<u'\\'>(), [&](std::size_t at) {
             const bool escaped = at == m_behindBackslash;
             m_behindBackslash = at + 1;
             if (at + 1 == text.size()) {

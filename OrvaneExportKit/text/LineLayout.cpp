@@ -21,7 +21,7 @@ public:
 
     std::size_t operator()(std::u16string_view text, std::size_t from, std::size_t until, TextEdits &edits)
     {
-        platform::forEachUnit(text.substr(0, until), from, platform::OneOf{u'\n', u'\t'}, [&](std::size_t at) {
+        platform::forEachUnit(text.substr(0, until), from, platform::OneOf<u'\n', u'\t'>(), [&](std::size_t at) {
             if (text[at] == u'\n') {
                 m_start = at + 1;
             } else if (at == m_start) {
@@ -56,6 +56,8 @@ std::size_t findEmptyLines(std::u16string_view text, std::size_t from, std::size
 
 /// The units behind which a line may end.
 struct BreakCharacters {
+    static constexpr bool asBytes = true;
+
     template <typename Units>
     constexpr auto operator()(Units units) const
     {

@@ -48,7 +48,7 @@ public:
         if (from == 0) {
             passPlace(text, 0);
         }
-        platform::forEachUnit(text.substr(0, until), from, platform::OneOf{straightMark, u'\n'}, [&](std::size_t at) {
+        platform::forEachUnit(text.substr(0, until), from, platform::OneOf<straightMark, u'\n'>(), [&](std::size_t at) {
             if (at < m_word) {
                 return; // a line feed among the white space behind the last place
             }

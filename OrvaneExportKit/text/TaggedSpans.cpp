@@ -18,14 +18,9 @@ namespace {
 RangeList findLevelLines(std::u16string_view text, std::u16string_view levelString)
 {
     RangeList lines;
-    std::size_t next = 0;
-    platform::forEachLiteral(text, levelString, 0, text.size(), [&](std::size_t at) {
-        if (at < next) {
-            return;
-        }
-        next = at + levelString.size();
+    platform::forEachOccurrence(text, levelString, 0, text.size(), [&](std::size_t at) {
         if (at == 0 || text[at - 1] == u'\n') {
-            lines.push_back({at, platform::lineEnd(text, next - 1) - at});
+            lines.push_back({at, platform::lineEnd(text, at + levelString.size() - 1) - at});
         }
     });
     return lines;
@@ -93,12 +88,7 @@ RangeList findTagPairs(std::u16string_view text, std::u16string_view startTag, s
 RangeList findPairsOfOneTag(std::u16string_view text, std::u16string_view tag)
 {
     RangeList tags;
-    std::size_t next = 0;
-    platform::forEachLiteral(text, tag, 0, text.size(), [&](std::size_t at) {
-        if (at < next) {
-            return;
-        }
-        next = at + tag.size();
+    platform::forEachOccurrence(text, tag, 0, text.size(), [&](std::size_t at) {
         if (!isInAddress(text, tag, at)) {
             tags.push_back({at, tag.size()});
         }

@@ -41,7 +41,7 @@ void convertEllipses(QString &text)
 void correctApostrophes(QString &text)
 {
     const std::u16string_view found = platform::units(text);
-    const std::size_t first = platform::findUnit(found, 0, platform::OneOf{straightApostrophe});
+    const std::size_t first = platform::findUnit(found, 0, platform::OneOf<straightApostrophe>());
     if (first == found.size()) {
         return;
     }

@@ -25,7 +25,7 @@ void searchPieces(std::size_t pieceLength, QString &text)
 {
     const std::u16string_view units = platform::units(text);
     for (std::size_t at = 0; at < units.size(); at += pieceLength) {
-        benchmark::DoNotOptimize(platform::findUnit(units.substr(0, pieceLength), 0, platform::OneOf{u'\x01'}));
+        benchmark::DoNotOptimize(platform::findUnit(units.substr(0, pieceLength), 0, platform::OneOf<u'\x01'>()));
     }
 }
 

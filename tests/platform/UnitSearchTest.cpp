@@ -7,12 +7,14 @@
 #include <vector>
 
 using platform::AsciiSieve;
+using platform::Exactly;
 using platform::OneOf;
 
 namespace {
 
 /// Every unit from some to some, in any processor's way of looking at them.
 struct Within {
+    static constexpr bool asBytes = true;
     char16_t first;
     char16_t last;
 
@@ -20,6 +22,19 @@ struct Within {
     constexpr auto operator()(Units units) const
     {
         return platform::isWithin(units, first, last);
+    }
+};
+
+/// Every other unit.
+struct Outside {
+    static constexpr bool asBytes = true;
+    char16_t first;
+    char16_t last;
+
+    template <typename Units>
+    constexpr auto operator()(Units units) const
+    {
+        return platform::isOutside(units, first, last);
     }
 };
 
@@ -81,18 +96,24 @@ std::vector<std::size_t> placesUnitByUnit(std::u16string_view text, std::u16stri
 
 TEST(UnitSearch, ManyUnitsAtOnceAnswerLikeOneAfterTheOther)
 {
-    expectTheSameMasks(OneOf{u'*'});
-    expectTheSameMasks(OneOf{u'"', u'\n'});
-    expectTheSameMasks(OneOf{u'\n', u'\r', u'\u0085', u'\uFFFF', u'\u8000'});
+    expectTheSameMasks(OneOf<u'*'>());
+    expectTheSameMasks(OneOf<u'"', u'\n'>());
+    expectTheSameMasks(OneOf<u'\0', u'\x7E'>());
+    expectTheSameMasks(OneOf<u'\x7F'>());
+    expectTheSameMasks(OneOf<u'\n', u'\r', u'\u0085', u'\uFFFF', u'\u8000'>());
+    expectTheSameMasks(Exactly<true>{u'*'});
+    expectTheSameMasks(Exactly<false>{u'*'});
+    expectTheSameMasks(Exactly<false>{u'\uFF80'});
 }
 
-TEST(UnitSearch, RangesTakeUnitsForUnsigned)
+TEST(UnitSearch, RangesOfAsciiTellItFromAllBeyond)
 {
     expectTheSameMasks(Within{u'\0', u'!'});
-    expectTheSameMasks(Within{u'\u2028', u'\u2029'});
-    expectTheSameMasks(Within{u'\u7FFF', u'\u8000'});
-    expectTheSameMasks(Within{u'\uFF80', u'\uFFFF'});
-    expectTheSameMasks(Within{u'\0', u'\uFFFF'});
+    expectTheSameMasks(Within{u'*', u'*'});
+    expectTheSameMasks(Within{u'\0', u'\x7E'});
+    expectTheSameMasks(Outside{u'\0', u'\x7E'});
+    expectTheSameMasks(Outside{u'\x0E', u'\x7E'});
+    expectTheSameMasks(Outside{u' ', u'~'});
 }
 
 TEST(UnitSearch, ASieveLetsThroughItsRangesAndAllBeyondAscii)
@@ -106,7 +127,7 @@ TEST(UnitSearch, ASieveLetsThroughItsRangesAndAllBeyondAscii)
 TEST(UnitSearch, VisitsEveryUnitOfAKindFromAnyPlaceOn)
 {
     std::mt19937 random(2);
-    const OneOf kind{u'a', u'\uFFFF'};
+    const OneOf<u'a', u'\uFFFF'> kind;
     for (std::size_t length = 0; length < 200; ++length) {
         const std::u16string text = randomUnits(random, length);
         const std::size_t from = random() % (length + 1);
@@ -118,10 +139,29 @@ TEST(UnitSearch, VisitsEveryUnitOfAKindFromAnyPlaceOn)
     }
 }
 
+TEST(UnitSearch, FindsWhatStandsFarApart)
+{
+    std::u16string text(1000, u'-');
+    const std::vector<std::size_t> places{70, 71, 400, 960, 999};
+    for (const std::size_t place : places) {
+        text[place] = u'*';
+    }
+    std::vector<std::size_t> visited;
+    const auto visit = [&](std::size_t at) {
+        visited.push_back(at);
+    };
+    platform::forEachUnit(text, 5, OneOf<u'*'>(), visit);
+    EXPECT_EQ(visited, places);
+    EXPECT_EQ(platform::findUnit(text, 72, OneOf<u'*'>()), 400U);
+    visited.clear();
+    platform::forEachLiteral(text, u"-*", 5, text.size(), visit);
+    EXPECT_EQ(visited, (std::vector<std::size_t>{69, 399, 959, 998}));
+}
+
 TEST(UnitSearch, FindsTheLastUnitBetweenTwoPlaces)
 {
     std::mt19937 random(3);
-    const OneOf kind{u'~'};
+    const OneOf<u'~'> kind;
     for (std::size_t length = 0; length < 200; ++length) {
         const std::u16string text = randomUnits(random, length);
         const std::size_t until = random() % (length + 1);
@@ -135,11 +175,14 @@ TEST(UnitSearch, FindsTheLastUnitBetweenTwoPlaces)
 TEST(UnitSearch, VisitsEveryPlaceOfALiteralOverlappingOnesIncluded)
 {
     std::mt19937 random(4);
-    for (const std::u16string_view literal : {u"a", u"aa", u"ab", u"aaa", u"aab", u"aba"}) {
+    const std::u16string_view units = u"aaaaaabbb\u1061\u1061\uFF61\x7F";
+    // U+1061 and U+0161 end like the letter a, U+FF61 becomes a byte with a sign.
+    for (const std::u16string_view literal : {u"a", u"aa", u"ab", u"aaa", u"aab", u"aba", u"\u1061", u"\u1061\u1061",
+                                              u"a\u1061", u"\uFF61a", u"\x7F\x7F"}) {
         for (std::size_t length = 0; length < 300; ++length) {
             std::u16string text;
             while (text.size() < length) {
-                text += random() % 3 == 0 ? u'b' : u'a';
+                text += units[random() % units.size()];
             }
             const std::size_t until = random() % (length + 1);
             const std::size_t from = random() % (until + 1);
@@ -148,6 +191,13 @@ TEST(UnitSearch, VisitsEveryPlaceOfALiteralOverlappingOnesIncluded)
             EXPECT_EQ(visited, placesUnitByUnit(text, literal, from, until));
         }
     }
+}
+
+TEST(UnitSearch, OccurrencesAreThePlacesFromTheLeftThatDoNotOverlap)
+{
+    std::vector<std::size_t> visited;
+    platform::forEachOccurrence(u"-------a--", u"--", 1, 10, [&](std::size_t at) { visited.push_back(at); });
+    EXPECT_EQ(visited, (std::vector<std::size_t>{1, 3, 5, 8}));
 }
 
 TEST(UnitSearch, AnEmptyLiteralStandsNowhere)
