@@ -12,11 +12,19 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace host {
 
+namespace {
+
+QString described(const ManuscriptDocument &document)
+{
+    return Texts::tr("the document %1").arg(quoted(document.name()));
+}
+
+} // namespace
+
 QByteArray exportedDocument(const ManuscriptDocument &document, const ExportPlugin &plugin)
 {
     const platform::AttributedString text = document.text();
-    return answerOf(plugin, Texts::tr("the document %1").arg(quoted(document.name())),
-                    [&] { return plugin.exportedData(document, text); });
+    return answerOf(plugin, described(document), [&] { return plugin.exportedData(document, text); });
 }
 
 ExportFiles::ExportFiles(const Manuscript &manuscript, const ExportPlugin &plugin, OutputPaths paths)
@@ -28,6 +36,12 @@ QString ExportFiles::nextName() const
 {
     const ManuscriptDocument *document = nextDocument();
     return document != nullptr ? document->name() : platform::lastPathComponent(nextPath());
+}
+
+QString ExportFiles::nextDescription() const
+{
+    const ManuscriptDocument *document = nextDocument();
+    return document != nullptr ? described(*document) : Texts::tr("the file %1").arg(quoted(nextName()));
 }
 
 void ExportFiles::writeNext()
@@ -57,9 +71,8 @@ QByteArray ExportFiles::nextAdditionalContent() const
     for (const ManuscriptDocument &document : m_manuscript.documents) {
         documentFiles.append({&document, platform::lastPathComponent(m_paths.documents[documentFiles.size()])});
     }
-    const QString name = platform::lastPathComponent(nextPath());
-    return answerOf(m_plugin, Texts::tr("the file %1").arg(quoted(name)),
-                    [&] { return m_plugin.additionalFileData(name, m_manuscript.title, documentFiles); });
+    return answerOf(m_plugin, nextDescription(),
+                    [&] { return m_plugin.additionalFileData(nextName(), m_manuscript.title, documentFiles); });
 }
 
 } // namespace host

@@ -32,6 +32,9 @@ public:
     /// The name of the document that comes next, or of the file that the plug-in adds.
     QString nextName() const;
 
+    /// The same for a message: what it is and its name in quotes.
+    QString nextDescription() const;
+
     /// Writes the next file. Throws `HostError` when that fails; the file then is as it was before.
     void writeNext();
 

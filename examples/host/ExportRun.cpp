@@ -88,9 +88,8 @@ void writeFiles(ExportFiles &files, const ExportPlugin &plugin)
         }
         progress.show(
             u"%1/%2 %3"_s.arg(files.written().size() + 1).arg(files.count()).arg(printable(files.nextName())));
-        crash.set(
-            u"the plug-in %1 crashed on the document %2; the files before it are whole, this one is as it was; change the document or the plug-in's choices, and export again"_s
-                .arg(plugin.name(), quoted(files.nextName())));
+        crash.set(u"the plug-in %1 crashed on %2; the files before it are whole, this one is as it was; change the "
+                  "document or the plug-in's choices, and export again"_s.arg(plugin.name(), files.nextDescription()));
         files.writeNext();
     }
 }
