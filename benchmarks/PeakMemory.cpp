@@ -1,48 +1,27 @@
-// How much memory settings and archives take while they are written and read, at most and beyond what was there before:
-// the result and all that is needed on the way to it. The counter `peak bytes per byte` relates it to the length of the
-// property list. In a program of its own, for counting costs time.
+#include "PeakMemory.h"
 
-#include <OrvaneExportKit/platform/KeyedArchiver.h>
-#include <OrvaneExportKit/platform/KeyedUnarchiver.h>
-#include <OrvaneExportKit/platform/PropertyList.h>
-
-#include "LibplistTree.h"
-#include "SampleSettings.h"
-
-#include <benchmark/benchmark.h>
+#include <tests/support/LibraryAllocation.h>
 
 #include <malloc.h>
 
 #include <algorithm>
-#include <cstdint>
 #include <cstdlib>
-#include <string>
 
 namespace {
 
-std::int64_t allocated = 0;
-std::int64_t highest = 0;
+std::size_t held = 0;
+std::size_t peak = 0;
 
-void *counted(void *memory)
+void *counted(void *block)
 {
-    allocated += static_cast<std::int64_t>(malloc_usable_size(memory));
-    highest = std::max(highest, allocated);
-    return memory;
-}
-
-void uncount(void *memory)
-{
-    allocated -= static_cast<std::int64_t>(malloc_usable_size(memory));
+    held += malloc_usable_size(block);
+    peak = std::max(peak, held);
+    return block;
 }
 
 } // namespace
 
-// The allocation functions of the C library under their other names, counted.
 extern "C" {
-void *__libc_malloc(std::size_t size);
-void *__libc_calloc(std::size_t count, std::size_t size);
-void *__libc_realloc(void *memory, std::size_t size);
-void __libc_free(void *memory);
 
 void *malloc(std::size_t size)
 {
@@ -54,84 +33,35 @@ void *calloc(std::size_t count, std::size_t size)
     return counted(__libc_calloc(count, size));
 }
 
-void *realloc(void *memory, std::size_t size)
+void *realloc(void *block, std::size_t size)
 {
-    uncount(memory);
-    return counted(__libc_realloc(memory, size));
-}
-
-void free(void *memory)
-{
-    uncount(memory);
-    __libc_free(memory);
-}
-}
-
-namespace {
-
-using namespace Qt::Literals::StringLiterals;
-using platform::KeyedArchiver;
-using platform::KeyedUnarchiver;
-using platform::PropertyList;
-using Format = PropertyList::Format;
-
-QVariant manyStrings()
-{
-    QVariantList list;
-    for (int i = 0; i < 100'000; ++i) {
-        list.append(u"string number %1"_s.arg(i));
+    const std::size_t before = malloc_usable_size(block);
+    void *const moved = __libc_realloc(block, size);
+    if (moved != nullptr || size == 0) {
+        held -= before;
+        return counted(moved);
     }
-    return list;
+    return nullptr;
 }
 
-/// The most that `run` had allocated at a time, in bytes.
-template <typename Run>
-std::int64_t peakOf(const Run &run)
+void free(void *block)
 {
-    const std::int64_t before = allocated;
-    highest = before;
-    benchmark::DoNotOptimize(run());
-    return highest - before;
+    held -= malloc_usable_size(block);
+    __libc_free(block);
+}
 }
 
-/// A benchmark that runs once and reports the peak for a property list of `length` bytes.
-template <typename Run>
-void add(const std::string &name, qsizetype length, const Run &run)
+PeakMemory::PeakMemory() : m_start(held)
 {
-    benchmark::RegisterBenchmark(("peak memory/" + name).c_str(), [length, run](benchmark::State &state) {
-        run(); // whatever is made once for all is there now
-        std::int64_t peak = 0;
-        for (auto _ : state) {
-            peak = peakOf(run);
-        }
-        state.counters["peak bytes"] = static_cast<double>(peak);
-        state.counters["peak bytes per byte"] = static_cast<double>(peak) / static_cast<double>(length);
-    })->Iterations(1);
+    peak = held;
 }
 
-void addSettings(const std::string &formatName, Format format)
+std::size_t PeakMemory::withResult() const
 {
-    const QVariantMap settings = sampleSettings();
-    const QByteArray list = *PropertyList::write(settings, format).data;
-    add("settings/write " + formatName + "/kit", list.size(),
-        [settings, format] { return PropertyList::write(settings, format); });
-    add("settings/read " + formatName + "/kit", list.size(), [list] { return PropertyList::read(list); });
-    add("settings/write " + formatName + "/libplist and conversion", list.size(),
-        [settings, format] { return LibplistTree(settings).written(format); });
-    add("settings/read " + formatName + "/libplist and conversion", list.size(),
-        [list, format] { return LibplistTree(list, format).value(); });
+    return peak - m_start;
 }
 
-[[maybe_unused]] const bool registered = [] {
-    addSettings("XML", Format::Xml);
-    addSettings("binary", Format::Binary);
-    const QVariant strings = manyStrings();
-    const QByteArray archive = KeyedArchiver::archivedDataWithRootObject(strings);
-    add("archives/write 100000 strings/kit", archive.size(),
-        [strings] { return KeyedArchiver::archivedDataWithRootObject(strings); });
-    add("archives/read 100000 strings/kit", archive.size(),
-        [archive] { return KeyedUnarchiver::unarchiveObjectWithData(archive); });
-    return true;
-}();
-
-} // namespace
+std::size_t PeakMemory::beyondResult() const
+{
+    return peak - std::max(m_start, held);
+}

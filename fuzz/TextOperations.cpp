@@ -15,19 +15,13 @@
 #include <tests/reference/RangeLists.h>
 #include <tests/reference/TaggedSpans.h>
 #include <tests/reference/Typography.h>
+#include <tests/support/TextOperations.h>
 
 #include <OrvaneExportKit/platform/AttributedString.h>
 #include <OrvaneExportKit/platform/Bundle.h>
 #include <OrvaneExportKit/platform/LineRanges.h>
-#include <OrvaneExportKit/platform/TextEdits.h>
 #include <OrvaneExportKit/platform/TextUnits.h>
-#include <OrvaneExportKit/text/EscapeSequences.h>
-#include <OrvaneExportKit/text/LineLayout.h>
-#include <OrvaneExportKit/text/QuotationMarks.h>
 #include <OrvaneExportKit/text/QuotationTable.h>
-#include <OrvaneExportKit/text/RangeLists.h>
-#include <OrvaneExportKit/text/TaggedSpans.h>
-#include <OrvaneExportKit/text/Typography.h>
 
 #include <algorithm>
 #include <array>
@@ -51,16 +45,6 @@ using property::outcome;
 using property::printed;
 using reference::Edit;
 using reference::NaiveAttributedString;
-
-// The operations of plain and of attributed texts side by side, so that one call serves both.
-namespace library {
-using namespace KZArrayExportAdditions;
-using namespace KZStringExportAdditions;
-using namespace KZAttributedStringExportAdditions;
-using namespace KZMutableStringExportAdditions;
-using namespace KZMutableAttributedStringExportAdditions;
-using platform::applyEdits;
-} // namespace library
 
 constexpr std::size_t longestText = 2048;
 

@@ -39,10 +39,7 @@ void add(const QString &name, const Text &text, qsizetype length, Call call)
             state.SetIterationTime(timing::secondsSince(start) / static_cast<double>(calls));
         }
     };
-    benchmark::RegisterBenchmark(u"short/%1/%2"_s.arg(name).arg(length).toUtf8().constData(), run)
-        ->Iterations(300)
-        ->UseManualTime()
-        ->Unit(benchmark::kNanosecond);
+    timing::add(u"short/%1/%2"_s.arg(name).arg(length), 300, benchmark::kNanosecond, run);
 }
 
 template <typename Call>

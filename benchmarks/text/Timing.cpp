@@ -34,6 +34,12 @@ double copyWarm(const QString &text, QString &own)
     return secondsSince(start);
 }
 
+void add(const QString &name, int iterations, benchmark::TimeUnit unit,
+         const std::function<void(benchmark::State &)> &run)
+{
+    benchmark::RegisterBenchmark(name.toUtf8().constData(), run)->Iterations(iterations)->UseManualTime()->Unit(unit);
+}
+
 void Measurements::report(benchmark::State &state, qsizetype length) const
 {
     state.counters["memcpys"] = median(m_ratios);

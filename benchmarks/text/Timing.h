@@ -1,12 +1,13 @@
 #pragma once
 
-#include "PeakMemory.h"
+#include "../PeakMemory.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QtCore/QString>
 
 #include <chrono>
+#include <functional>
 #include <vector>
 
 /// \file
@@ -23,6 +24,10 @@ double secondsSince(Clock::time_point start);
 
 /// Copies the text into the storage of `own`, twice, and returns the seconds of the second time: one warm memcpy.
 double copyWarm(const QString &text, QString &own);
+
+/// Makes a benchmark known that gives its times itself.
+void add(const QString &name, int iterations, benchmark::TimeUnit unit,
+         const std::function<void(benchmark::State &)> &run);
 
 /// What is measured beside the time, given out as counters: the median of the ratios to a memcpy, and the most memory
 /// that an operation held beyond its input and its result, in bytes a unit.

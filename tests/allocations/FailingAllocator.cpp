@@ -1,15 +1,8 @@
 #include <tests/allocations/FailingAllocator.h>
+#include <tests/support/LibraryAllocation.h>
 
 #include <cerrno>
 #include <limits>
-
-// The functions behind those of the same names in the C library of GNU.
-extern "C" {
-void *__libc_malloc(std::size_t size);
-void *__libc_calloc(std::size_t count, std::size_t size);
-void *__libc_realloc(void *block, std::size_t size);
-void __libc_free(void *block);
-}
 
 namespace {
 

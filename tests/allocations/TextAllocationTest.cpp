@@ -1,14 +1,8 @@
 #include <tests/allocations/EveryAllocation.h>
+#include <tests/support/TextOperations.h>
 
 #include <OrvaneExportKit/platform/AttributedString.h>
-#include <OrvaneExportKit/platform/TextEdits.h>
 #include <OrvaneExportKit/platform/TextUnits.h>
-#include <OrvaneExportKit/text/EscapeSequences.h>
-#include <OrvaneExportKit/text/LineLayout.h>
-#include <OrvaneExportKit/text/QuotationMarks.h>
-#include <OrvaneExportKit/text/RangeLists.h>
-#include <OrvaneExportKit/text/TaggedSpans.h>
-#include <OrvaneExportKit/text/Typography.h>
 
 using namespace Qt::Literals::StringLiterals;
 using allocations::failEveryAllocation;
@@ -17,15 +11,6 @@ using platform::AttributedString;
 using platform::RangeList;
 
 namespace {
-
-// The operations of plain and of attributed texts side by side, so that one call serves both.
-namespace library {
-using namespace KZArrayExportAdditions;
-using namespace KZStringExportAdditions;
-using namespace KZAttributedStringExportAdditions;
-using namespace KZMutableStringExportAdditions;
-using namespace KZMutableAttributedStringExportAdditions;
-} // namespace library
 
 constexpr std::u16string_view sampleUnits =
     u"## A title\n\n\t\"Yes\", she said ... it's 4--5\n\n> **not** here\n## The **end**\n";

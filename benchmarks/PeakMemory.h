@@ -9,7 +9,10 @@ class PeakMemory
 public:
     PeakMemory();
 
-    /// The peak in bytes, less what is held now.
+    /// The peak in bytes.
+    std::size_t withResult() const;
+
+    /// The same less what is held now.
     std::size_t beyondResult() const;
 
 private:
