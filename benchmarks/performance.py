@@ -149,9 +149,9 @@ def ratio(other, kit):
 
 
 def memory(results):
-    rows = [[name[len("peak memory/"):], *(figure(value) for key, value in entry.items() if key.startswith("bytes"))]
+    rows = [[name[len("peak memory/"):], f"{entry['peak bytes'] / 1024:,.0f} KiB", figure(entry["peak bytes per byte"])]
             for name, entry in results.items() if name.startswith("peak memory/")]
-    return table(["what", "bytes a byte of the list"], rows)
+    return table(["what", "at most", "bytes for a byte of the list"], rows)
 
 
 def machine():

@@ -4,6 +4,7 @@
 #include "Texts.h"
 #include "Timing.h"
 
+#include <OrvaneExportKit/platform/LineRanges.h>
 #include <OrvaneExportKit/platform/UnitSearch.h>
 
 #include <cstring>
@@ -27,6 +28,45 @@ void searchPieces(std::size_t pieceLength, QString &text)
     for (std::size_t at = 0; at < units.size(); at += pieceLength) {
         benchmark::DoNotOptimize(platform::findUnit(units.substr(0, pieceLength), 0, platform::OneOf<u'\x01'>()));
     }
+}
+
+/// Stops at every quotation mark and line feed, and does nothing there.
+void visitMarks(QString &text)
+{
+    std::size_t sum = 0;
+    platform::forEachUnit(platform::units(text), 0, platform::OneOf<u'"', u'\n'>(), [&](std::size_t at) { sum += at; });
+    benchmark::DoNotOptimize(sum);
+}
+
+/// Stops at every empty line, and does nothing there.
+void visitEmptyLines(QString &text)
+{
+    std::size_t sum = 0;
+    const std::u16string_view units = platform::units(text);
+    platform::forEachLiteral(units, u"\n\n", 0, units.size(), [&](std::size_t at) { sum += at; });
+    benchmark::DoNotOptimize(sum);
+}
+
+/// Goes from the end of one line to that of the next.
+void visitLineEnds(QString &text)
+{
+    const std::u16string_view units = platform::units(text);
+    std::size_t at = 0;
+    while (at < units.size()) {
+        at = platform::lineEnd(units, at);
+    }
+    benchmark::DoNotOptimize(at);
+}
+
+/// Goes from one space to the last one of the next 72 units.
+void visitLastSpaces(QString &text)
+{
+    const std::u16string_view units = platform::units(text);
+    std::size_t at = 0;
+    while (at + 72 < units.size()) {
+        at = std::max(at + 1, platform::findBehindLastUnit(units, at, at + 72, platform::OneOf<u' '>()));
+    }
+    benchmark::DoNotOptimize(at);
 }
 
 /// Writes every unit where it stands.
@@ -63,10 +103,7 @@ void add(const QString &name, const std::function<void(QString &)> &work)
         }
         measurements.report(state, timing::fullSize);
     };
-    benchmark::RegisterBenchmark(u"limit/%1/%2"_s.arg(name).arg(timing::fullSize).toUtf8().constData(), run)
-        ->Iterations(31)
-        ->UseManualTime()
-        ->Unit(benchmark::kMicrosecond);
+    timing::add(u"limit/%1/%2"_s.arg(name).arg(timing::fullSize), 31, benchmark::kMicrosecond, run);
 }
 
 [[maybe_unused]] const bool registered = [] {
@@ -74,6 +111,10 @@ void add(const QString &name, const std::function<void(QString &)> &work)
     add(u"searching in vain for one unit, as the kit does"_s,
         std::bind_front(searchPieces, static_cast<std::size_t>(timing::fullSize)));
     add(u"the same, 256 times in the first 16 Ki units"_s, std::bind_front(searchPieces, std::size_t{1} << 14));
+    add(u"stopping at 37,000 quotation marks and line feeds"_s, visitMarks);
+    add(u"stopping at 11,000 empty lines"_s, visitEmptyLines);
+    add(u"going from line end to line end"_s, visitLineEnds);
+    add(u"going to the last space of 72 units, 60,000 times"_s, visitLastSpaces);
     add(u"writing each unit in its place"_s, rewriteAll);
     add(u"moving the text, one piece"_s, std::bind_front(movePieces, std::size_t{1}));
     add(u"moving the text, 4700 pieces"_s, std::bind_front(movePieces, std::size_t{4'700}));
