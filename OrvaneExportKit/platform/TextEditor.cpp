@@ -21,14 +21,35 @@ char16_t *written(std::u16string_view replacement, char16_t *target)
     return std::copy(replacement.begin(), replacement.end(), target);
 }
 
-/// Writes the units of `given` from `from` to before `next`, edited, at `target` and returns its end.
-char16_t *writeEdited(const char16_t *given, std::size_t from, std::size_t next, const TextEdits &edits,
-                      char16_t *target)
+/// A mere range is an edit that deletes it.
+Range rangeOf(const Range &deleted)
 {
-    for (const TextEdit &edit : edits) {
-        target = moved(given + from, given + edit.range.location, target);
-        target = written(edit.replacement, target);
-        from = edit.range.end();
+    return deleted;
+}
+
+Range rangeOf(const TextEdit &edit)
+{
+    return edit.range;
+}
+
+char16_t *writtenFor(const Range &, char16_t *target)
+{
+    return target;
+}
+
+char16_t *writtenFor(const TextEdit &edit, char16_t *target)
+{
+    return written(edit.replacement, target);
+}
+
+/// Writes the units of `given` from `from` to before `next`, edited, at `target` and returns its end.
+template <typename Edits>
+char16_t *writeEdited(const char16_t *given, std::size_t from, std::size_t next, const Edits &edits, char16_t *target)
+{
+    for (const auto &edit : edits) {
+        const Range range = rangeOf(edit);
+        target = writtenFor(edit, moved(given + from, given + range.location, target));
+        from = range.end();
     }
     return moved(given + from, given + next, target);
 }
@@ -74,13 +95,24 @@ TextEditor::~TextEditor()
 
 void TextEditor::apply(const TextEdits &edits, std::size_t next)
 {
+    makeRoom(growthByEdits(edits), next);
+    write(edits, next);
+}
+
+void TextEditor::remove(const RangeList &ranges)
+{
+    write(ranges, m_length);
+}
+
+template <typename Edits>
+void TextEditor::write(const Edits &edits, std::size_t next)
+{
     const bool hasGap = m_done != m_shift + m_position;
     if (edits.empty() && !hasGap) {
         m_done += next - m_position;
         m_position = next;
         return;
     }
-    makeRoom(growthByEdits(edits), next);
     char16_t *const start = buffer();
     char16_t *const target = writeEdited(start + m_shift, m_position, next, edits, start + m_done);
     m_done = static_cast<std::size_t>(target - start);

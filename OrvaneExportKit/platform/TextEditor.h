@@ -30,7 +30,12 @@ public:
     /// Makes the edits that lie between `position()` and `next`, which becomes the position.
     void apply(const TextEdits &edits, std::size_t next);
 
+    /// Deletes the ranges, which are ascending, do not overlap and lie behind `position()`, from the whole text.
+    void remove(const RangeList &ranges);
+
 private:
+    template <typename Edits>
+    void write(const Edits &edits, std::size_t next);
     char16_t *buffer() { return reinterpret_cast<char16_t *>(m_text.data()); }
     void makeRoom(std::size_t growth, std::size_t next);
     void widenGap(std::size_t growth);

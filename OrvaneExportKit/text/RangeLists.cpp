@@ -40,37 +40,26 @@ void requireLastRange(const char *operation, const RangeList &disjoint, std::siz
     }
 }
 
-/// Goes through ascending ranges that do not overlap: calls `visit` for those that begin before `until`, also for one
-/// at the very end of the text, and returns from where it goes on.
-class RangeWalk
+TextEdits deletions(const RangeList &ranges)
 {
-public:
-    explicit RangeWalk(const RangeList &ranges) : m_next(ranges.begin()), m_end(ranges.end()) {}
-
-    template <typename Visit>
-    std::size_t operator()(std::size_t length, std::size_t until, Visit visit)
-    {
-        std::size_t end = until;
-        for (; m_next != m_end && (m_next->location < until || m_next->location == length); ++m_next) {
-            visit(*m_next);
-            end = m_next->end();
-        }
-        return std::max(end, until);
+    TextEdits edits;
+    edits.reserve(ranges.size());
+    for (const Range &range : ranges) {
+        edits.push_back({range});
     }
+    return edits;
+}
 
-private:
-    RangeList::const_iterator m_next;
-    RangeList::const_iterator m_end;
-};
-
-template <typename Text>
-void deleteDisjointRanges(Text &text, const RangeList &ranges)
+void deleteDisjointRanges(QString &text, const RangeList &ranges)
 {
     requireLastRange("deleteCharactersInRanges", ranges, units(text).size());
-    RangeWalk walk(ranges);
-    platform::carryOutFound(text, [&](std::u16string_view given, std::size_t, std::size_t until, TextEdits &edits) {
-        return walk(given.size(), until, [&](const Range &range) { edits.push_back({range}); });
-    });
+    platform::TextEditor(text).remove(ranges);
+}
+
+void deleteDisjointRanges(AttributedString &text, const RangeList &ranges)
+{
+    requireLastRange("deleteCharactersInRanges", ranges, text.length());
+    applyEdits(text, deletions(ranges));
 }
 
 /// The stretch of the original text that deleting `range` from the current one takes out. `deleted` holds what is
@@ -98,10 +87,8 @@ FoundEdits findDeletions(std::size_t length, const RangeList &sorted)
         length -= range->length;
         deleted.push_back(stretchToDelete(*range, deleted));
     }
-    found.edits.reserve(deleted.size());
-    for (auto stretch = deleted.rbegin(); stretch != deleted.rend(); ++stretch) {
-        found.edits.push_back({*stretch});
-    }
+    std::reverse(deleted.begin(), deleted.end());
+    found.edits = deletions(deleted);
     return found;
 }
 
@@ -132,14 +119,13 @@ void deleteRanges(Text &text, const RangeList &ranges)
 void encloseDisjointRanges(QString &text, const RangeList &ranges, std::u16string_view string)
 {
     requireLastRange("encloseRanges", ranges, units(text).size());
-    RangeWalk walk(ranges);
-    platform::editAtOnce(text, [&](std::u16string_view given, std::size_t, std::size_t until, TextEdits &edits) {
-        edits.reserve(2 * ranges.size());
-        return walk(given.size(), until, [&](const Range &range) {
-            edits.push_back({{range.location, 0}, string});
-            edits.push_back({{range.end(), 0}, string});
-        });
-    });
+    TextEdits edits;
+    edits.reserve(2 * ranges.size());
+    for (const Range &range : ranges) {
+        edits.push_back({{range.location, 0}, string});
+        edits.push_back({{range.end(), 0}, string});
+    }
+    applyEdits(text, edits);
 }
 
 /// The text that all insertions together put in, at the places where it ends up. Its units that are not `kept` free
