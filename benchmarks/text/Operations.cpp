@@ -1,6 +1,6 @@
-// Each text operation beside the plain way on QString and the best that other libraries offer, as multiples of one warm
-// memcpy of the same text. Names are text/OPERATION/UNITS/WAY. What a way makes of the text is compared with the
-// step-by-step version before it is timed.
+// Each operation on plain text beside the plain way on QString and the best that other libraries offer, as multiples of
+// one warm memcpy of the same text. Names are text/OPERATION/UNITS/WAY. What a way makes of the text is compared with
+// the step-by-step version before it is timed.
 
 #include "OtherWays.h"
 #include "PlainWays.h"
@@ -16,16 +16,12 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QtGui/QTextCursor>
-
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
-using platform::AttributedString;
 using platform::RangeList;
 
 namespace Plain = KZMutableStringExportAdditions;
-namespace Attributed = KZMutableAttributedStringExportAdditions;
 namespace Questions = KZStringExportAdditions;
 
 constexpr qsizetype fullSize = timing::fullSize;
@@ -37,25 +33,12 @@ using ReferenceWay = std::function<RangeList(std::u16string &, const RangeList &
 using TextMaker = std::function<QString(qsizetype)>;
 using RangeMaker = std::function<RangeList(qsizetype)>;
 
-template <typename Function, typename Text>
-RangeList called(const Function &function, Text &text, const RangeList &ranges)
-{
-    if constexpr (std::is_invocable_r_v<RangeList, Function, Text &>) {
-        return function(text);
-    } else if constexpr (std::is_invocable_v<Function, Text &>) {
-        function(text);
-    } else {
-        function(text, ranges);
-    }
-    return {};
-}
-
 /// The function as a way, whichever of the three forms it has.
 template <typename Function>
 Way way(Function function)
 {
     return [function](QString &text, const RangeList &ranges) {
-        return called(function, text, ranges);
+        return timing::called(function, text, ranges);
     };
 }
 
@@ -63,7 +46,7 @@ template <typename Function>
 ReferenceWay referenceWay(Function function)
 {
     return [function](std::u16string &text, const RangeList &ranges) {
-        return called(function, text, ranges);
+        return timing::called(function, text, ranges);
     };
 }
 
@@ -148,16 +131,10 @@ std::vector<std::u16string> strings(const QStringList &list)
     return result;
 }
 
-/// How many ranges lie in a text of `length` units where `count` lie in one of full size.
-std::size_t scaled(std::size_t count, qsizetype length)
-{
-    return std::max<std::size_t>(2, count * static_cast<std::size_t>(length) / fullSize);
-}
-
 RangeMaker spreadRanges(std::size_t count)
 {
     return [count](qsizetype length) {
-        return texts::spread(length, scaled(count, length));
+        return texts::spread(length, timing::scaled(count, length));
     };
 }
 
@@ -268,6 +245,9 @@ void addMarks()
         .kit([](QString &text) { return Questions::lineRangesForLevelString(text, u"#"); })
         .peer(u"plain"_s, [](QString &text) { return plain::lineRangesForLevelString(text, u"#"_s); })
         .peer(u"PCRE2"_s, [](QString &text) { return other::matches(text, u"(?:(?<=\\n)|^)#[^\\n]*\\n?"_s); });
+    Operation(u"deleteLevelMark #"_s, texts::prose, [](std::u16string &text) {
+        reference::deleteLevelMark(text, u"#");
+    }).kit([](QString &text) { Plain::deleteLevelMark(text, u"#"); });
 }
 
 void addRangeLists()
@@ -292,7 +272,7 @@ void addRangeLists()
         .peer(u"by hand"_s,
               [](QString &text, const RangeList &ranges) { other::encloseRanges(text, ranges, u"**"_s); });
     const auto overlapping = [](qsizetype length) {
-        return texts::overlapping(length, scaled(1'000'000, length));
+        return texts::overlapping(length, timing::scaled(1'000'000, length));
     };
     Operation(u"deleteCharactersInRanges, a million overlapping"_s, texts::prose,
               reference::deleteCharactersInRanges<std::u16string>, overlapping)
@@ -322,77 +302,12 @@ void addConversions()
     }
 }
 
-/// The text in blocks with a format each, as many as the document can hold apart.
-std::unique_ptr<QTextDocument> styledDocument(const QString &text, std::size_t runs)
-{
-    auto document = std::make_unique<QTextDocument>();
-    document->setUndoRedoEnabled(false);
-    document->setPlainText(text);
-    QTextCursor cursor(document.get());
-    cursor.beginEditBlock();
-    for (std::size_t index = 0; index < runs; ++index) {
-        const std::size_t length = static_cast<std::size_t>(text.size());
-        cursor.setPosition(static_cast<int>(index * length / runs));
-        cursor.setPosition(static_cast<int>((index + 1) * length / runs), QTextCursor::KeepAnchor);
-        QTextCharFormat format;
-        format.setFontItalic(index % 2 == 0);
-        cursor.mergeCharFormat(format);
-    }
-    cursor.endEditBlock();
-    return document;
-}
-
-/// The text that is copied right before the call: that of the very object where it gives it out, so that it is warm.
-const QString &timedText(const AttributedString &own, const QString &)
-{
-    return own.string();
-}
-
-const QString &timedText(const std::unique_ptr<QTextDocument> &, const QString &text)
-{
-    return text;
-}
-
-/// Deletes 4,700 ranges from prose that `style` has put into 100,000 runs.
-template <typename Style, typename Deletion>
-void addAttributed(const QString &way, qsizetype size, int iterations, Style style, Deletion deleteRanges)
-{
-    const QString name = u"text/deleteCharactersInRanges, attributed, 100000 runs/%1/%2"_s.arg(size).arg(way);
-    const auto run = [=](benchmark::State &state) {
-        const QString text = texts::prose(size);
-        const RangeList ranges = texts::spread(size, scaled(4'700, size));
-        QString copy;
-        timing::Measurements measurements;
-        for (auto _ : state) {
-            auto own = style(text, scaled(100'000, size));
-            const double memcpySeconds = timing::copyWarm(timedText(own, text), copy);
-            measurements.time(state, memcpySeconds, [&] { deleteRanges(own, ranges); });
-        }
-        measurements.report(state, size);
-    };
-    timing::add(name, iterations, benchmark::kMicrosecond, run);
-}
-
-void addAttributedText()
-{
-    for (qsizetype size = fullSize / 64; size <= fullSize; size *= 4) {
-        addAttributed(u"kit"_s, size, 15, texts::styled, [](AttributedString &text, const RangeList &ranges) {
-            Attributed::deleteCharactersInRanges(text, ranges);
-        });
-    }
-    addAttributed(u"QTextCursor"_s, fullSize, 2, styledDocument,
-                  [](std::unique_ptr<QTextDocument> &document, const RangeList &ranges) {
-                      other::deleteRanges(*document, ranges);
-                  });
-}
-
 [[maybe_unused]] const bool registered = [] {
     addTypography();
     addLineLayout();
     addMarks();
     addRangeLists();
     addConversions();
-    addAttributedText();
     return true;
 }();
 

@@ -2,12 +2,16 @@
 
 #include "../PeakMemory.h"
 
+#include <OrvaneExportKit/platform/Range.h>
+
 #include <benchmark/benchmark.h>
 
 #include <QtCore/QString>
 
+#include <algorithm>
 #include <chrono>
 #include <functional>
+#include <type_traits>
 #include <vector>
 
 /// \file
@@ -19,6 +23,26 @@ namespace timing {
 inline constexpr qsizetype fullSize = 4 * 1024 * 1024;
 
 using Clock = std::chrono::steady_clock;
+
+/// How many things lie in a text of `length` units where `count` lie in one of full size.
+constexpr std::size_t scaled(std::size_t count, qsizetype length)
+{
+    return std::max<std::size_t>(2, count * static_cast<std::size_t>(length) / fullSize);
+}
+
+/// Calls a function that changes a text, at given ranges if it takes them, or finds ranges in it.
+template <typename Function, typename Text>
+platform::RangeList called(const Function &function, Text &text, const platform::RangeList &ranges)
+{
+    if constexpr (std::is_invocable_r_v<platform::RangeList, Function, Text &>) {
+        return function(text);
+    } else if constexpr (std::is_invocable_v<Function, Text &>) {
+        function(text);
+    } else {
+        function(text, ranges);
+    }
+    return {};
+}
 
 double secondsSince(Clock::time_point start);
 
