@@ -10,10 +10,22 @@ char16_t *moved(const char16_t *first, const char16_t *last, char16_t *target)
     return target == first ? target + (last - first) : std::copy(first, last, target);
 }
 
-/// Writes the replacement at `target` and returns its end. Most are a single unit, for which a call would cost more
-/// than the copy.
-char16_t *written(std::u16string_view replacement, char16_t *target)
+const Range &rangeOf(const TextEdit &edit)
 {
+    return edit.range;
+}
+
+/// A mere range is an edit that deletes it.
+const Range &rangeOf(const Range &deleted)
+{
+    return deleted;
+}
+
+/// Writes what takes the place of the range at `target` and returns its end. Most replacements are a single unit, for
+/// which a call would cost more than the copy.
+char16_t *writeReplacement(const TextEdit &edit, char16_t *target)
+{
+    const std::u16string_view replacement = edit.replacement;
     if (replacement.size() == 1) {
         *target = replacement.front();
         return target + 1;
@@ -21,25 +33,9 @@ char16_t *written(std::u16string_view replacement, char16_t *target)
     return std::copy(replacement.begin(), replacement.end(), target);
 }
 
-/// A mere range is an edit that deletes it.
-Range rangeOf(const Range &deleted)
-{
-    return deleted;
-}
-
-Range rangeOf(const TextEdit &edit)
-{
-    return edit.range;
-}
-
-char16_t *writtenFor(const Range &, char16_t *target)
+char16_t *writeReplacement(const Range &, char16_t *target)
 {
     return target;
-}
-
-char16_t *writtenFor(const TextEdit &edit, char16_t *target)
-{
-    return written(edit.replacement, target);
 }
 
 /// Writes the units of `given` from `from` to before `next`, edited, at `target` and returns its end.
@@ -47,9 +43,8 @@ template <typename Edits>
 char16_t *writeEdited(const char16_t *given, std::size_t from, std::size_t next, const Edits &edits, char16_t *target)
 {
     for (const auto &edit : edits) {
-        const Range range = rangeOf(edit);
-        target = writtenFor(edit, moved(given + from, given + range.location, target));
-        from = range.end();
+        target = writeReplacement(edit, moved(given + from, given + rangeOf(edit).location, target));
+        from = rangeOf(edit).end();
     }
     return moved(given + from, given + next, target);
 }

@@ -80,7 +80,7 @@ struct SixteenUnits {
     }
 };
 
-/// How far each unit lies from the stretch from `first` to `last`, 0 inside it. The stretch may go on from 0xFF to 0.
+/// How far behind `last` each unit lies, 0 from `first` to `last`. Behind 0xFF comes 0.
 Q_ALWAYS_INLINE __m128i distance(SixteenUnits units, int first, int last)
 {
     const __m128i offset = _mm_sub_epi8(units.lanes, SixteenUnits::all(first).lanes);
