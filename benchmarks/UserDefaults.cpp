@@ -2,6 +2,7 @@
 // on the disk that the current folder is on. Both replace the file as a whole, under a lock, and flush it before they
 // return.
 
+#include <OrvaneExportKit/platform/PropertyList.h>
 #include <OrvaneExportKit/platform/UserDefaults.h>
 
 #include "SampleSettings.h"
@@ -9,6 +10,8 @@
 #include <benchmark/benchmark.h>
 
 #include <QtCore/QFile>
+#include <QtCore/QLockFile>
+#include <QtCore/QSaveFile>
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
 
@@ -17,6 +20,7 @@
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
+using platform::PropertyList;
 using platform::UserDefaults;
 
 /// One setting counts how often they have been saved, so that there is something new to save each time.
@@ -90,12 +94,35 @@ void saveByQSettings(benchmark::State &state, const QString &folderTemplate)
     }
 }
 
+/// What the kit leaves to Qt, alone: locking, reading and replacing a file of the same size.
+void saveNothingNew(benchmark::State &state, const QString &folderTemplate)
+{
+    const QTemporaryDir folder(folderTemplate);
+    const QString path = folder.filePath(u"plain-text.plist"_s);
+    const QByteArray data = *PropertyList::write(sampleSettings(), PropertyList::Format::Xml).data;
+    const auto replace = [&] {
+        QSaveFile file(path);
+        return file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.commit();
+    };
+    bool isSaved = replace();
+    for (auto _ : state) {
+        QLockFile lock(path + u".lock"_s);
+        QFile file(path);
+        isSaved = isSaved && lock.tryLock() && file.open(QIODevice::ReadOnly) && file.readAll() == data && replace();
+    }
+    if (!isSaved) {
+        state.SkipWithError("the file was not saved");
+    }
+}
+
 [[maybe_unused]] const bool registered = [] {
     for (const auto &[place, folder] :
          {std::pair("memory", u"/dev/shm/settings-XXXXXX"_s), std::pair("disk", u"settings-XXXXXX"_s)}) {
         const std::string group = std::string("settings/save in ") + place;
         benchmark::RegisterBenchmark((group + "/kit").c_str(), saveByKit, folder)->Unit(benchmark::kMicrosecond);
         benchmark::RegisterBenchmark((group + "/QSettings").c_str(), saveByQSettings, folder)
+            ->Unit(benchmark::kMicrosecond);
+        benchmark::RegisterBenchmark((group + "/lock, read and replace alone").c_str(), saveNothingNew, folder)
             ->Unit(benchmark::kMicrosecond);
     }
     return true;
