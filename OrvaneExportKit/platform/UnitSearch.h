@@ -221,12 +221,15 @@ Q_ALWAYS_INLINE UnitMask fullMask(const char16_t *units, const Kind &kind)
 template <typename Kind>
 UnitMask partialMask(const char16_t *units, std::size_t count, const Kind &kind)
 {
-    UnitMask mask = 0;
-    std::size_t index = 0;
-    for (; index + 16 <= count; index += 16) {
+    if (count < 16) {
+        return plainMask(units, count, kind);
+    }
+    const std::size_t last = count - 16; // the last sixteen may overlap those before them
+    UnitMask mask = maskOfSixteen(units + last, kind) << last;
+    for (std::size_t index = 0; index < last; index += 16) {
         mask |= maskOfSixteen(units + index, kind) << index;
     }
-    return index == count ? mask : mask | plainMask(units + index, count - index, kind) << index;
+    return mask;
 }
 
 /// Calls `visit(index)` for each bit that is set, from the lowest to the highest; the lowest bit stands for `start`.

@@ -5,6 +5,7 @@
 #include <OrvaneExportKit/text/FoundEdits.h>
 #include <OrvaneExportKit/text/QuotationTable.h>
 
+#include <algorithm>
 #include <array>
 
 using platform::AttributedString;
@@ -46,34 +47,34 @@ public:
     std::size_t operator()(std::u16string_view text, std::size_t from, std::size_t until, TextEdits &edits)
     {
         if (from == 0) {
-            passPlace(text, 0);
+            m_word = skipWhiteSpace(text, 0);
         }
-        platform::forEachUnit(text.substr(0, until), from, platform::OneOf<straightMark, u'\n'>(), [&](std::size_t at) {
-            if (at < m_word) {
-                return; // a line feed among the white space behind the last place
-            }
-            const bool startsAnew = text[at] != straightMark || (at == m_word && m_word > m_behindPlace);
-            m_opens = m_opens || startsAnew;
-            if (text[at] == straightMark) {
-                edits.push_back({{at, 1}, m_opens ? m_marks.start : m_marks.stop});
-                m_opens = !m_opens;
-            }
-            passPlace(text, at + 1);
+        platform::forEachUnit(text.substr(0, until), from, platform::OneOf<straightMark>(), [&](std::size_t at) {
+            passText(text, from, at);
+            m_opens = m_opens || (at == m_word && m_word > m_behindMark);
+            edits.push_back({{at, 1}, m_opens ? m_marks.start : m_marks.stop});
+            m_opens = !m_opens;
+            m_behindMark = at + 1;
+            m_word = skipWhiteSpace(text, at + 1);
         });
+        passText(text, from, until);
         return until;
     }
 
 private:
-    void passPlace(std::u16string_view text, std::size_t behind)
+    /// Goes on to `until`. Behind a line feed the next mark opens, unless the line feed belongs to the white space
+    /// behind the last mark.
+    void passText(std::u16string_view text, std::size_t from, std::size_t until)
     {
-        m_behindPlace = behind;
-        m_word = skipWhiteSpace(text, behind);
+        const std::size_t start = std::max(m_word, from);
+        m_opens = m_opens ||
+                  (start < until && platform::findUnit(text.substr(0, until), start, platform::OneOf<u'\n'>()) < until);
     }
 
     MarkPair m_marks;
     bool m_opens = true;
-    std::size_t m_behindPlace = 0; // behind the last mark or line feed that counts
-    std::size_t m_word = 0;        // behind the white space that follows it
+    std::size_t m_behindMark = 0; // behind the last mark, at first the start of the text
+    std::size_t m_word = 0;       // behind the white space that follows there
 };
 
 /// Marks of one unit take the places of straight ones. Longer ones need memory, so nothing is changed before all is
