@@ -4,6 +4,8 @@
 #include <OrvaneExportKit/text/FoundEdits.h>
 #include <OrvaneExportKit/text/Occurrences.h>
 
+#include <algorithm>
+
 using platform::AttributedString;
 
 namespace {
@@ -15,6 +17,16 @@ template <typename Text>
 void replaceAll(Text &text, std::u16string_view literal, std::u16string_view replacement)
 {
     platform::carryOutFound(text, platform::Replacements{literal, replacement});
+}
+
+/// Compilers write many units at once where every one is written, changed or not.
+void correctStretch(char16_t *units, std::size_t count)
+{
+    constexpr char16_t difference = straightApostrophe ^ typographicApostrophe;
+    for (std::size_t index = 0; index < count; ++index) {
+        const char16_t mask = units[index] == straightApostrophe ? u'\uFFFF' : u'\0';
+        units[index] = static_cast<char16_t>(units[index] ^ (mask & difference));
+    }
 }
 
 template <typename Text>
@@ -40,17 +52,17 @@ void convertEllipses(QString &text)
 
 void correctApostrophes(QString &text)
 {
-    const std::u16string_view found = platform::units(text);
-    const std::size_t first = platform::findUnit(found, 0, platform::OneOf<straightApostrophe>());
-    if (first == found.size()) {
+    constexpr platform::OneOf<straightApostrophe> kind{};
+    std::size_t at = platform::findUnit(platform::units(text), 0, kind);
+    if (at == platform::units(text).size()) {
         return;
     }
-    // Compilers write many units at once where every one is written, changed or not.
-    constexpr char16_t difference = straightApostrophe ^ typographicApostrophe;
     auto *const units = reinterpret_cast<char16_t *>(text.data());
-    for (std::size_t index = first; index < found.size(); ++index) {
-        const char16_t mask = units[index] == straightApostrophe ? u'\uFFFF' : u'\0';
-        units[index] = static_cast<char16_t>(units[index] ^ (mask & difference));
+    const std::u16string_view view(units, static_cast<std::size_t>(text.size()));
+    for (; at < view.size(); at += platform::maskedUnits) {
+        if (platform::nextMaskOf(view, at, kind) != 0) {
+            correctStretch(units + at, std::min(platform::maskedUnits, view.size() - at));
+        }
     }
 }
 
