@@ -1,5 +1,5 @@
-// What the operations consist of at least: reading the text, writing it, and moving its pieces together. Names are
-// limit/WHAT/UNITS.
+// What the operations consist of at least: reading the text, stopping at what is wanted, and moving pieces together.
+// Names are limit/WHAT/UNITS.
 
 #include "Texts.h"
 #include "Timing.h"
@@ -69,15 +69,6 @@ void visitLastSpaces(QString &text)
     benchmark::DoNotOptimize(at);
 }
 
-/// Writes every unit where it stands.
-void rewriteAll(QString &text)
-{
-    auto *const units = reinterpret_cast<char16_t *>(text.data());
-    for (qsizetype index = 0; index < text.size(); ++index) {
-        units[index] = static_cast<char16_t>(units[index] ^ 1);
-    }
-}
-
 /// Moves the text in `count` pieces, each four units closer to the start than the one before it.
 void movePieces(std::size_t count, QString &text)
 {
@@ -115,7 +106,6 @@ void add(const QString &name, const std::function<void(QString &)> &work)
     add(u"stopping at 11,000 empty lines"_s, visitEmptyLines);
     add(u"going from line end to line end"_s, visitLineEnds);
     add(u"going to the last space of 72 units, 60,000 times"_s, visitLastSpaces);
-    add(u"writing each unit in its place"_s, rewriteAll);
     add(u"moving the text, one piece"_s, std::bind_front(movePieces, std::size_t{1}));
     add(u"moving the text, 4700 pieces"_s, std::bind_front(movePieces, std::size_t{4'700}));
     add(u"moving the text, 45000 pieces"_s, std::bind_front(movePieces, std::size_t{45'000}));
