@@ -21,12 +21,10 @@ public:
 
     std::size_t operator()(std::u16string_view text, std::size_t from, std::size_t until, TextEdits &edits)
     {
-        platform::forEachUnit(text.substr(0, until), from, platform::OneOf<u'\n', u'\t'>(), [&](std::size_t at) {
-            if (text[at] == u'\n') {
-                m_start = at + 1;
-            } else if (at == m_start) {
+        platform::forEachUnit(text.substr(0, until), from, platform::OneOf<u'\t'>(), [&](std::size_t at) {
+            if (at == m_behindRun || text[at - 1] == u'\n') {
                 edits.push_back({{at, 1}, replacement()});
-                m_start = at + 1;
+                m_behindRun = at + 1;
             }
         });
         return until;
@@ -44,7 +42,7 @@ private:
 
     quint32 m_spaces;
     QString m_replacement;
-    std::size_t m_start = 0; // where a tab would belong to the run at the start of its line
+    std::size_t m_behindRun = 0; // behind the last tab that was found, at first the start of the text
 };
 
 /// Finds the line feeds before another one.
