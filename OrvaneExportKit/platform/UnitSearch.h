@@ -9,6 +9,7 @@
 #include <bit>
 #include <cstdint>
 #include <string_view>
+#include <type_traits>
 
 #if defined(__SSE2__) && !defined(ORVANE_PLAIN_SEARCH)
 #define ORVANE_SEARCH_WITH_SSE2
@@ -175,6 +176,7 @@ private:
 template <typename Kind>
 UnitMask plainMask(const char16_t *units, std::size_t count, const Kind &kind)
 {
+    static_assert(std::is_same_v<decltype(Kind::asBytes), const bool>, "a kind says whether bytes do for it");
     UnitMask mask = 0;
     for (std::size_t index = 0; index < count; ++index) {
         mask |= UnitMask{kind(units[index]) ? 1U : 0U} << index;
