@@ -197,6 +197,13 @@ Q_ALWAYS_INLINE UnitMask maskOfSixteen(const char16_t *units, const Kind &kind)
     }
     return static_cast<UnitMask>(_mm_movemask_epi8(answers));
 }
+#else
+template <typename Kind>
+Q_ALWAYS_INLINE UnitMask maskOfSixteen(const char16_t *units, const Kind &kind)
+{
+    return plainMask(units, 16, kind);
+}
+#endif
 
 /// One bit a unit for 64 units.
 template <typename Kind>
@@ -205,19 +212,6 @@ Q_ALWAYS_INLINE UnitMask fullMask(const char16_t *units, const Kind &kind)
     return maskOfSixteen(units, kind) | maskOfSixteen(units + 16, kind) << 16 | maskOfSixteen(units + 32, kind) << 32 |
            maskOfSixteen(units + 48, kind) << 48;
 }
-#else
-template <typename Kind>
-Q_ALWAYS_INLINE UnitMask maskOfSixteen(const char16_t *units, const Kind &kind)
-{
-    return plainMask(units, 16, kind);
-}
-
-template <typename Kind>
-Q_ALWAYS_INLINE UnitMask fullMask(const char16_t *units, const Kind &kind)
-{
-    return plainMask(units, maskedUnits, kind);
-}
-#endif
 
 /// The mask of the first `count` units, fewer than 64.
 template <typename Kind>
