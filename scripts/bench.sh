@@ -21,10 +21,13 @@ for program in build/bench/benchmarks/*_benchmarks; do
     if [ $# -gt 0 ]; then
         "$program" "$@"
     else
-        "$program" "${repeat[@]}" --benchmark_out="$results/$(basename "$program").json"
+        "$program" "${repeat[@]}" --benchmark_filter=-short/ --benchmark_out="$results/$(basename "$program").json"
     fi
 done
 if [ $# -eq 0 ]; then
+    # What else runs easily doubles so short a time; so there are many rounds, of which the fastest counts.
+    build/bench/benchmarks/text_benchmarks --benchmark_filter=short/ --benchmark_repetitions=25 \
+        --benchmark_enable_random_interleaving=true --benchmark_out="$results/short_texts.json"
     python3 benchmarks/performance.py "$results" benchmarks/performance.md.in docs/performance.md
     echo "Written: docs/performance.md"
 fi

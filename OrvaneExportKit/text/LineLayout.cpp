@@ -7,43 +7,49 @@
 
 #include <algorithm>
 #include <limits>
+#include <new>
+#include <string>
 
 using platform::TextEdits;
 using platform::units;
 
 namespace {
 
-/// Finds the tabs of the unbroken run at the start of each line.
-class StartTabFinder
+/// Finds the unbroken run of tabs at the start of each line.
+TextEdits findStartTabs(std::u16string_view text)
 {
-public:
-    explicit StartTabFinder(quint32 spaces) : m_spaces(spaces) {}
-
-    std::size_t operator()(std::u16string_view text, std::size_t from, std::size_t until, TextEdits &edits)
-    {
-        platform::forEachUnit(text.substr(0, until), from, platform::OneOf<u'\t'>(), [&](std::size_t at) {
-            if (at == m_behindRun || text[at - 1] == u'\n') {
-                edits.push_back({{at, 1}, replacement()});
-                m_behindRun = at + 1;
-            }
-        });
-        return until;
-    }
-
-private:
-    /// Made for the first tab that is found: it may be too long for any memory.
-    std::u16string_view replacement()
-    {
-        if (m_replacement.isEmpty()) {
-            m_replacement.fill(u' ', static_cast<qsizetype>(m_spaces));
+    TextEdits runs;
+    std::size_t behindRun = 0; // behind the last tab that was found, at first the start of the text
+    platform::forEachUnit(text, 0, platform::OneOf<u'\t'>(), [&](std::size_t at) {
+        if (at == behindRun && !runs.empty()) {
+            ++runs.back().range.length;
+        } else if (at == 0 || text[at - 1] == u'\n') {
+            runs.push_back({{at, 1}});
+        } else {
+            return;
         }
-        return units(m_replacement);
-    }
+        behindRun = at + 1;
+    });
+    return runs;
+}
 
-    quint32 m_spaces;
-    QString m_replacement;
-    std::size_t m_behindRun = 0; // behind the last tab that was found, at first the start of the text
-};
+std::size_t longestRange(const TextEdits &edits)
+{
+    std::size_t longest = 0;
+    for (const platform::TextEdit &edit : edits) {
+        longest = std::max(longest, edit.range.length);
+    }
+    return longest;
+}
+
+/// As many spaces for each of `tabs` tabs; throws where no memory could hold them.
+std::u16string spacesForTabs(std::size_t tabs, std::size_t spaces)
+{
+    if (spaces > 0 && tabs > std::u16string().max_size() / spaces) {
+        throw std::bad_alloc();
+    }
+    return std::u16string(tabs * spaces, u' ');
+}
 
 /// Finds the line feeds before another one.
 std::size_t findEmptyLines(std::u16string_view text, std::size_t from, std::size_t until, TextEdits &edits)
@@ -145,7 +151,12 @@ namespace KZMutableStringExportAdditions {
 
 void convertStartTabsToSpace(QString &text, quint32 spaces)
 {
-    platform::editAtOnce(text, StartTabFinder(spaces));
+    TextEdits runs = findStartTabs(units(text));
+    const std::u16string longest = spacesForTabs(longestRange(runs), spaces);
+    for (platform::TextEdit &run : runs) {
+        run.replacement = std::u16string_view(longest).substr(0, run.range.length * spaces);
+    }
+    applyEdits(text, runs);
 }
 
 void deleteEmptyLines(QString &text)
