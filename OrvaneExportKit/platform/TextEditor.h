@@ -110,7 +110,7 @@ void editInBlocks(QString &text, Find &&find)
     runEditor(editor, find);
 }
 
-/// An edited copy of the text.
+/// An edited copy of the text. `find` is called as `runEditor` calls it.
 template <typename Find>
 QString editedCopy(std::u16string_view text, Find &&find)
 {
@@ -119,7 +119,7 @@ QString editedCopy(std::u16string_view text, Find &&find)
     return editor.takeCopy();
 }
 
-/// Makes all edits that `find` finds at once: for attributed text, and where edits only make the text longer.
+/// Makes all edits that `find` finds at once: for attributed text, and where nothing may change before all is found.
 template <typename Text, typename Find>
 void editAtOnce(Text &text, Find &&find)
 {

@@ -130,9 +130,8 @@ struct Exactly {
     }
 };
 
-/// The kind of units in a few ranges of ASCII and, where it is wanted, all units from U+007F on: a quick first sieve
+/// The kind of units in four ranges of ASCII and, where it is wanted, all units from U+007F on: a quick first sieve
 /// for a larger set of units, which lets some through that are not in the set.
-template <std::size_t count>
 class AsciiSieve
 {
 public:
@@ -143,7 +142,7 @@ public:
         char16_t last;
     };
 
-    constexpr AsciiSieve(const std::array<Bounds, count> &ranges, bool withOthers)
+    constexpr AsciiSieve(const std::array<Bounds, 4> &ranges, bool withOthers)
         : m_ranges(ranges), m_withOthers(withOthers)
     {
     }
@@ -168,7 +167,7 @@ public:
 #endif
 
 private:
-    std::array<Bounds, count> m_ranges;
+    std::array<Bounds, 4> m_ranges;
     bool m_withOthers;
 };
 

@@ -19,7 +19,7 @@ qsizetype lengthOf(const UnitReplacements &replacements)
 }
 
 /// The ASCII units to be replaced in four ranges, parted at the three widest gaps between them.
-AsciiSieve<4> sieveFor(const UnitReplacements &replacements)
+AsciiSieve sieveFor(const UnitReplacements &replacements)
 {
     std::vector<char16_t> wanted;
     bool withOthers = false;
@@ -34,7 +34,7 @@ AsciiSieve<4> sieveFor(const UnitReplacements &replacements)
         wanted.push_back(u'\0');
     }
     std::sort(wanted.begin(), wanted.end());
-    std::vector<AsciiSieve<4>::Bounds> ranges;
+    std::vector<AsciiSieve::Bounds> ranges;
     ranges.reserve(wanted.size());
     for (const char16_t unit : wanted) {
         ranges.push_back({unit, unit});
@@ -47,7 +47,7 @@ AsciiSieve<4> sieveFor(const UnitReplacements &replacements)
         ranges.erase(closest + 1);
     }
     ranges.resize(4, ranges.front());
-    return AsciiSieve<4>({ranges[0], ranges[1], ranges[2], ranges[3]}, withOthers);
+    return AsciiSieve({ranges[0], ranges[1], ranges[2], ranges[3]}, withOthers);
 }
 
 } // namespace

@@ -38,7 +38,7 @@ private:
 
     std::array<std::size_t, 65536 / pageSize> m_pageOf{}; // the first page holds nothing
     std::vector<Page> m_pages;
-    AsciiSieve<4> m_sieve;
+    AsciiSieve m_sieve;
 };
 
 } // namespace platform
