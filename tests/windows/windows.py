@@ -26,8 +26,9 @@ class Display:
     def __init__(self, size):
         self.home = tempfile.TemporaryDirectory()
         read_end, write_end = os.pipe()
+        # A server that starts over when its last client leaves refuses whoever comes meanwhile.
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{size}x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-noreset"],
             pass_fds=[write_end], stderr=subprocess.DEVNULL)
         os.close(write_end)
         with os.fdopen(read_end) as number:
