@@ -159,11 +159,11 @@ class Appearance(unittest.TestCase):
         options = ["--language", language, "--milliseconds", "150", *(["--dark"] if dark else [])]
         export = Export(display, manuscript, destination, *options, scale=scale)
         question = export.window("overwritePanel")
-        expect_palette(self, display, display.picture(PICTURES / f"overwrite-{name}.png"), dark)
+        expect_palette(display, PICTURES / f"overwrite-{name}.png", dark)
         export.click(question, "replaceButton")
         export.window("progressPanel")
         time.sleep(0.3)
-        expect_palette(self, display, display.picture(PICTURES / f"progress-{name}.png"), dark)
+        expect_palette(display, PICTURES / f"progress-{name}.png", dark)
         display.input("key", "Escape")
         self.assertEqual(export.end()["end"], "aborted")
 

@@ -158,9 +158,8 @@ class Appearance(unittest.TestCase):
                             tempfile.TemporaryDirectory() as defaults:
                         panel = Panel(display, defaults, language, dark, scale=scale)
                         self.addCleanup(panel.kill)
-                        time.sleep(0.3)  # until the palette is in force
                         name = f"panel-{language[:2]}-{'dark' if dark else 'light'}-{scale}00"
-                        expect_palette(self, display, display.picture(PICTURES / f"{name}.png"), dark)
+                        expect_palette(display, PICTURES / f"{name}.png", dark)
                         panel.close()
 
 

@@ -122,7 +122,10 @@ class Program:
         self.process.wait()
 
 
-def expect_palette(test, display, picture, dark):
-    """Whether a picture is as light or dark as it should be."""
-    brightness = display.brightness(picture)
-    test.assertTrue(brightness < 0.4 if dark else brightness > 0.6, f"{picture}: brightness {brightness}")
+def expect_palette(display, path, dark):
+    """Takes a picture, and again until the window is drawn as light or dark as it should be."""
+    def is_as_expected():
+        brightness = display.brightness(display.picture(path))
+        return brightness < 0.4 if dark else brightness > 0.6
+
+    wait_until(is_as_expected, f"a {'dark' if dark else 'light'} window in {path}")
