@@ -54,7 +54,9 @@ std::u16string spacesForTabs(std::size_t tabs, std::size_t spaces)
 /// Finds the line feeds before another one.
 std::size_t findEmptyLines(std::u16string_view text, std::size_t from, std::size_t until, TextEdits &edits)
 {
-    platform::forEachLiteral(text, u"\n\n", from, until, [&](std::size_t at) { edits.push_back({{at, 1}}); });
+    platform::forEachLiteral<platform::Expected::Often>(text, u"\n\n", from, until, [&](std::size_t at) {
+        edits.push_back({{at, 1}});
+    });
     return until;
 }
 

@@ -8,6 +8,7 @@
 
 using platform::AsciiSieve;
 using platform::Exactly;
+using platform::Expected;
 using platform::OneOf;
 
 namespace {
@@ -122,6 +123,9 @@ TEST(UnitSearch, VisitsEveryUnitOfAKindFromAnyPlaceOn)
         platform::forEachUnit(text, from, kind, [&](std::size_t index) { visited.push_back(index); });
         const std::vector<std::size_t> expected = indicesUnitByUnit(text, from, kind);
         EXPECT_EQ(visited, expected);
+        visited.clear();
+        platform::forEachUnit<Expected::Rarely>(text, from, kind, [&](std::size_t index) { visited.push_back(index); });
+        EXPECT_EQ(visited, expected);
         EXPECT_EQ(platform::findUnit(text, from, kind), expected.empty() ? length : expected.front());
     }
 }
@@ -143,6 +147,17 @@ TEST(UnitSearch, FindsWhatStandsFarApart)
     visited.clear();
     platform::forEachLiteral(text, u"-*", 5, text.size(), visit);
     EXPECT_EQ(visited, (std::vector<std::size_t>{69, 399, 959, 998}));
+}
+
+TEST(UnitSearch, FindsManyMoreThanAreNotedDownAtOnce)
+{
+    const std::u16string text(20000, u'*');
+    std::size_t next = 3;
+    platform::forEachUnit(text, 3, OneOf<u'*'>(), [&](std::size_t at) { EXPECT_EQ(at, next++); });
+    EXPECT_EQ(next, text.size());
+    next = 3;
+    platform::forEachLiteral<Expected::Often>(text, u"**", 3, 19000, [&](std::size_t at) { EXPECT_EQ(at, next++); });
+    EXPECT_EQ(next, 19000U);
 }
 
 TEST(UnitSearch, FindsTheLastUnitBetweenTwoPlaces)
@@ -175,7 +190,12 @@ TEST(UnitSearch, VisitsEveryPlaceOfALiteralOverlappingOnesIncluded)
             const std::size_t from = random() % (until + 1);
             std::vector<std::size_t> visited;
             platform::forEachLiteral(text, literal, from, until, [&](std::size_t at) { visited.push_back(at); });
-            EXPECT_EQ(visited, placesUnitByUnit(text, literal, from, until));
+            const std::vector<std::size_t> expected = placesUnitByUnit(text, literal, from, until);
+            EXPECT_EQ(visited, expected);
+            visited.clear();
+            platform::forEachLiteral<Expected::Often>(text, literal, from, until,
+                                                      [&](std::size_t at) { visited.push_back(at); });
+            EXPECT_EQ(visited, expected);
         }
     }
 }
