@@ -11,10 +11,12 @@ using platform::RangeList;
 
 namespace {
 
-/// Makes up sentences from a fixed seed.
+/// Makes up sentences, the same for the same seed.
 class Writer
 {
 public:
+    explicit Writer(unsigned seed) : m_random(seed) {}
+
     QString manuscript(qsizetype length)
     {
         QString text;
@@ -96,7 +98,7 @@ private:
         return text + (chance(10) ? u"\n\n\n"_s : u"\n\n"_s);
     }
 
-    std::mt19937 m_random{20260101};
+    std::mt19937 m_random;
 };
 
 /// Pairs for units from U+00A1 on, as many as are missing to fifty.
@@ -113,7 +115,12 @@ Table completed(Table table, const QString &prefix, const QString &suffix)
 
 QString prose(qsizetype length)
 {
-    return Writer().manuscript(length);
+    return proseFrom(20260101, length);
+}
+
+QString proseFrom(unsigned seed, qsizetype length)
+{
+    return Writer(seed).manuscript(length);
 }
 
 QString escapedProse(qsizetype length)

@@ -11,6 +11,9 @@ namespace texts {
 /// straight quotes, apostrophes, "--", "...", `**` and `//` tags, addresses, headings, blank lines and leading tabs.
 QString prose(qsizetype length);
 
+/// The same mixture, another text for each seed.
+QString proseFrom(unsigned seed, qsizetype length);
+
 /// The same with line feeds and tabs typed as `\n` and `\t`.
 QString escapedProse(qsizetype length);
 
