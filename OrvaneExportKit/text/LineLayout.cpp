@@ -19,16 +19,12 @@ namespace {
 TextEdits findStartTabs(std::u16string_view text)
 {
     TextEdits runs;
-    std::size_t behindRun = 0; // behind the last tab that was found, at first the start of the text
     platform::forEachUnit(text, 0, platform::OneOf<u'\t'>(), [&](std::size_t at) {
-        if (at == behindRun && !runs.empty()) {
+        if (!runs.empty() && at == runs.back().range.end()) {
             ++runs.back().range.length;
         } else if (at == 0 || text[at - 1] == u'\n') {
             runs.push_back({{at, 1}});
-        } else {
-            return;
         }
-        behindRun = at + 1;
     });
     return runs;
 }
