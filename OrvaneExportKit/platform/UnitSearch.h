@@ -17,8 +17,8 @@
 #endif
 
 /// \file
-/// Searches for single units and short literals at the speed of memory: the one place that knows how a processor looks
-/// at many units at once. A *kind* says which units are wanted; it is written once and works on one unit and on many.
+/// Searches for single units at the speed of memory: the one place that knows how a processor looks at many units at
+/// once. A *kind* says which units are wanted; it is written once and works on one unit and on many.
 /// Its constant `asBytes` says that it need not tell the units from U+007F on apart: then units are looked at as bytes,
 /// twice as many at once. Where the processor's instructions are missing, or `ORVANE_PLAIN_SEARCH` is defined, it looks
 /// at one after the other.
@@ -337,74 +337,6 @@ std::size_t findBehindLastUnit(std::u16string_view text, std::size_t from, std::
         --until;
     }
     return until;
-}
-
-/// The mask of the units among 64 that equal `first` and stand before one that equals `second`. Reads 65 units.
-template <typename Kind>
-Q_ALWAYS_INLINE UnitMask maskOfPairs(const char16_t *units, const Kind &first, const Kind &second)
-{
-    const UnitMask firsts = fullMask(units, first);
-    if (first.wanted != second.wanted) {
-        return firsts == 0 ? 0 : firsts & fullMask(units + 1, second);
-    }
-    const UnitMask nextBlock = units[maskedUnits] == second.wanted ? UnitMask{1} << (maskedUnits - 1) : 0;
-    return firsts & (firsts >> 1 | nextBlock);
-}
-
-/// `forEachLiteral` for a literal whose units fit bytes, or for any other.
-template <Expected expected, bool fits, typename Visit>
-void forEachLiteralOf(std::u16string_view text, std::u16string_view literal, std::size_t from, std::size_t until,
-                      Visit &visit)
-{
-    const auto visitIfWhole = [&](std::size_t at, std::size_t known) {
-        if (literal.size() == known || text.substr(at + known).starts_with(literal.substr(known))) {
-            visit(at);
-        }
-    };
-    const Exactly<fits> first{literal.front()};
-    std::size_t at = from;
-    if (literal.size() > 1) {
-        const Exactly<fits> second{literal[1]};
-        const auto visitPair = [&](std::size_t place) {
-            visitIfWhole(place, 2);
-        };
-        const auto maskAt = [&](std::size_t place) {
-            return maskOfPairs(text.data() + place, first, second);
-        };
-        forEachMaskedUnit<expected>(at, until, maskAt, visitPair);
-    }
-    forEachUnit<expected>(text.substr(0, until), at, first, [&](std::size_t place) { visitIfWhole(place, 1); });
-}
-
-/// Calls `visit(index)` for every place before `until` where the literal stands, overlapping ones included, from left
-/// to right. An empty literal stands nowhere.
-template <Expected expected = Expected::Rarely, typename Visit>
-void forEachLiteral(std::u16string_view text, std::u16string_view literal, std::size_t from, std::size_t until,
-                    Visit visit)
-{
-    if (literal.empty() || text.size() < literal.size()) {
-        return;
-    }
-    until = std::min(until, text.size() - literal.size() + 1);
-    if (std::all_of(literal.begin(), literal.end(), fitsByte)) {
-        forEachLiteralOf<expected, true>(text, literal, from, until, visit);
-    } else {
-        forEachLiteralOf<expected, false>(text, literal, from, until, visit);
-    }
-}
-
-/// The same for the places from the left that do not overlap.
-template <typename Visit>
-void forEachOccurrence(std::u16string_view text, std::u16string_view literal, std::size_t from, std::size_t until,
-                       Visit visit)
-{
-    std::size_t next = from;
-    forEachLiteral(text, literal, from, until, [&](std::size_t at) {
-        if (at >= next) {
-            next = at + literal.size();
-            visit(at);
-        }
-    });
 }
 
 } // namespace platform

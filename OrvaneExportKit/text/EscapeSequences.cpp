@@ -1,7 +1,7 @@
 #include <OrvaneExportKit/text/EscapeSequences.h>
 
+#include <OrvaneExportKit/platform/LiteralSearch.h>
 #include <OrvaneExportKit/platform/TextEditor.h>
-#include <OrvaneExportKit/platform/UnitSearch.h>
 #include <OrvaneExportKit/text/Occurrences.h>
 #include <OrvaneExportKit/text/UnitSubstitution.h>
 

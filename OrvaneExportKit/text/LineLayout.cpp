@@ -2,8 +2,8 @@
 
 #include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/platform/LineRanges.h>
+#include <OrvaneExportKit/platform/LiteralSearch.h>
 #include <OrvaneExportKit/platform/TextEditor.h>
-#include <OrvaneExportKit/platform/UnitSearch.h>
 
 #include <algorithm>
 #include <limits>

@@ -1,7 +1,7 @@
 #include <OrvaneExportKit/text/ParagraphMarks.h>
 
+#include <OrvaneExportKit/platform/LiteralSearch.h>
 #include <OrvaneExportKit/text/DisjointRanges.h>
-#include <OrvaneExportKit/text/Occurrences.h>
 #include <OrvaneExportKit/text/PositionSet.h>
 
 #include <algorithm>
@@ -24,11 +24,11 @@ FoundEdits findInDisjointRanges(std::u16string_view text, std::u16string_view ma
     // What stands behind the next deletion is no blank, so blanks end where it begins.
     std::size_t nextDeletion = text.size();
     for (auto range = ranges.rbegin(); range != ranges.rend(); ++range) {
-        const std::size_t at = findLiteral(text.substr(0, range->end()), mark, range->location);
+        const std::size_t at = findLiteral(text.substr(range->location, range->length), mark, 0);
         if (at == notFound) {
             continue;
         }
-        std::size_t end = at + mark.size();
+        std::size_t end = range->location + at + mark.size();
         while (end < nextDeletion && text[end] == u' ') {
             ++end;
         }
@@ -47,9 +47,7 @@ public:
     MarkedText(std::u16string_view text, std::u16string_view mark)
         : m_text(text), m_mark(mark), m_left(PositionSet::all(text.size())), m_marks(text.size())
     {
-        for (std::size_t at = findLiteral(text, mark, 0); at != notFound; at = findLiteral(text, mark, at + 1)) {
-            m_marks.insert(at);
-        }
+        forEachLiteral(text, mark, 0, text.size(), [this](std::size_t at) { m_marks.insert(at); });
     }
 
     std::size_t length() const { return m_left.count(); }
@@ -76,10 +74,7 @@ public:
             m_left.erase(unit);
             m_marks.erase(unit);
         }
-        const std::size_t reach = std::min(range.location, m_mark.size() - 1);
-        for (std::size_t position = range.location - reach; position < range.location; ++position) {
-            updateMark(position);
-        }
+        findMarksAcross(range.location);
     }
 
     /// The stretches of the original text that are gone.
@@ -101,18 +96,21 @@ public:
     }
 
 private:
-    void updateMark(std::size_t position)
+    /// Brings up to date the marks that begin before `seam` and reach over it.
+    void findMarksAcross(std::size_t seam)
     {
-        std::size_t matched = 0;
-        while (matched < m_mark.size() && position + matched < length() &&
-               unitAt(position + matched) == m_mark[matched]) {
-            ++matched;
+        const std::size_t reach = m_mark.size() - 1;
+        const std::size_t start = seam - std::min(seam, reach);
+        const std::size_t end = std::min(length(), seam + reach);
+        std::u16string around;
+        for (std::size_t position = start; position < end; ++position) {
+            around += unitAt(position);
+            if (position < seam) {
+                m_marks.erase(m_left.nth(position));
+            }
         }
-        if (matched == m_mark.size()) {
-            m_marks.insert(m_left.nth(position));
-        } else {
-            m_marks.erase(m_left.nth(position));
-        }
+        forEachLiteral(around, m_mark, 0, seam - start,
+                       [&](std::size_t at) { m_marks.insert(m_left.nth(start + at)); });
     }
 
     std::u16string_view m_text;

@@ -1,8 +1,7 @@
 #include <OrvaneExportKit/text/TaggedSpans.h>
 
 #include <OrvaneExportKit/platform/LineRanges.h>
-#include <OrvaneExportKit/platform/UnitSearch.h>
-#include <OrvaneExportKit/text/Occurrences.h>
+#include <OrvaneExportKit/platform/LiteralSearch.h>
 #include <OrvaneExportKit/text/ParagraphMarks.h>
 
 #include <algorithm>

@@ -5,7 +5,7 @@
 #include "Timing.h"
 
 #include <OrvaneExportKit/platform/LineRanges.h>
-#include <OrvaneExportKit/platform/UnitSearch.h>
+#include <OrvaneExportKit/platform/LiteralSearch.h>
 
 #include <cstring>
 #include <functional>

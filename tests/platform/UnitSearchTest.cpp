@@ -41,20 +41,38 @@ std::u16string randomUnits(std::mt19937 &random, std::size_t length)
     return text;
 }
 
-template <typename Kind>
-void expectTheSameMasks(const Kind &kind)
+/// Requires of the masks of any number of units that they say what `isWanted` says of each unit.
+template <typename Kind, typename IsWanted>
+void expectMasksByRule(const Kind &kind, IsWanted isWanted)
 {
     std::mt19937 random(1);
     for (int round = 0; round < 500; ++round) {
         const std::u16string text = randomUnits(random, platform::maskedUnits + 8);
         const std::size_t start = random() % 8;
-        const platform::UnitMask expected = platform::plainMask(text.data() + start, platform::maskedUnits, kind);
+        platform::UnitMask expected = 0;
+        for (std::size_t index = 0; index < platform::maskedUnits; ++index) {
+            expected |= platform::UnitMask{isWanted(text[start + index])} << index;
+        }
         EXPECT_EQ(platform::fullMask(text.data() + start, kind), expected);
+        EXPECT_EQ(platform::plainMask(text.data() + start, platform::maskedUnits, kind), expected);
         for (const unsigned count : {0U, 1U, 7U, 15U, 16U, 17U, 31U, 32U, 47U, 48U, 63U}) {
             EXPECT_EQ(platform::partialMask(text.data() + start, count, kind),
                       expected & ((platform::UnitMask{1} << count) - 1));
         }
     }
+}
+
+/// The same for units that stand in a list.
+template <typename Kind>
+void expectMasks(const Kind &kind, std::u16string_view wanted)
+{
+    expectMasksByRule(kind, [wanted](char16_t unit) { return wanted.find(unit) != wanted.npos; });
+}
+
+/// The same for a stretch of ASCII, or for all but it.
+void expectMasks(const Stretch &kind)
+{
+    expectMasksByRule(kind, [&](char16_t unit) { return (kind.first <= unit && unit <= kind.last) == kind.isWanted; });
 }
 
 template <typename Kind>
@@ -69,46 +87,40 @@ std::vector<std::size_t> indicesUnitByUnit(std::u16string_view text, std::size_t
     return indices;
 }
 
-std::vector<std::size_t> placesUnitByUnit(std::u16string_view text, std::u16string_view literal, std::size_t from,
-                                          std::size_t until)
-{
-    std::vector<std::size_t> places;
-    for (std::size_t index = from; index < until; ++index) {
-        if (text.substr(index).starts_with(literal)) {
-            places.push_back(index);
-        }
-    }
-    return places;
-}
-
 } // namespace
 
-TEST(UnitSearch, ManyUnitsAtOnceAnswerLikeOneAfterTheOther)
+TEST(UnitSearch, MasksSayWhichUnitsAreWanted)
 {
-    expectTheSameMasks(OneOf<u'*'>());
-    expectTheSameMasks(OneOf<u'"', u'\n'>());
-    expectTheSameMasks(OneOf<u'\0', u'\x7E'>());
-    expectTheSameMasks(OneOf<u'\x7F'>());
-    expectTheSameMasks(OneOf<u'\n', u'\r', u'\u0085', u'\uFFFF', u'\u8000'>());
-    expectTheSameMasks(Exactly<true>{u'*'});
-    expectTheSameMasks(Exactly<false>{u'*'});
-    expectTheSameMasks(Exactly<false>{u'\uFF80'});
+    expectMasks(OneOf<u'*'>(), u"*");
+    expectMasks(OneOf<u'"', u'\n'>(), u"\"\n");
+    expectMasks(OneOf<u'\0', u'\x7E'>(), {u"\0\x7E", 2});
+    expectMasks(OneOf<u'\x7F'>(), u"\x7F");
+    expectMasks(OneOf<u'\n', u'\r', u'\u0085', u'\uFFFF', u'\u8000'>(), u"\n\r\u0085\uFFFF\u8000");
+    expectMasks(Exactly<true>{u'*'}, u"*");
+    expectMasks(Exactly<false>{u'*'}, u"*");
+    expectMasks(Exactly<false>{u'\uFF80'}, u"\uFF80");
 }
 
 TEST(UnitSearch, RangesOfAsciiTellItFromAllBeyond)
 {
-    expectTheSameMasks(Stretch{u'\0', u'!'});
-    expectTheSameMasks(Stretch{u'*', u'*'});
-    expectTheSameMasks(Stretch{u'\0', u'\x7E'});
-    expectTheSameMasks(Stretch{u'\0', u'\x7E', false});
-    expectTheSameMasks(Stretch{u'\x0E', u'\x7E', false});
-    expectTheSameMasks(Stretch{u' ', u'~', false});
+    expectMasks(Stretch{u'\0', u'!'});
+    expectMasks(Stretch{u'*', u'*'});
+    expectMasks(Stretch{u'\0', u'\x7E'});
+    expectMasks(Stretch{u'\0', u'\x7E', false});
+    expectMasks(Stretch{u'\x0E', u'\x7E', false});
+    expectMasks(Stretch{u' ', u'~', false});
 }
 
 TEST(UnitSearch, ASieveLetsThroughItsRangesAndAllBeyondAscii)
 {
+    const AsciiSieve::Bounds others{u'~', u'~'};
     for (const bool withOthers : {false, true}) {
-        expectTheSameMasks(AsciiSieve({{{u'\0', u'\0'}, {u'"', u'\''}, {u'*', u'/'}, {u'~', u'~'}}}, withOthers));
+        expectMasksByRule(
+            AsciiSieve({{{u'\0', u'\0'}, {u'"', u'\''}, {u'*', u'/'}, others}}, withOthers), [&](char16_t unit) {
+                return unit > u'~' ? withOthers
+                                   : unit == u'\0' || unit == u'~' ||
+                                         std::u16string_view(u"\"#$%&'*+,-./").find(unit) != std::u16string_view::npos;
+            });
     }
 }
 
@@ -138,15 +150,9 @@ TEST(UnitSearch, FindsWhatStandsFarApart)
         text[place] = u'*';
     }
     std::vector<std::size_t> visited;
-    const auto visit = [&](std::size_t at) {
-        visited.push_back(at);
-    };
-    platform::forEachUnit(text, 5, OneOf<u'*'>(), visit);
+    platform::forEachUnit(text, 5, OneOf<u'*'>(), [&](std::size_t at) { visited.push_back(at); });
     EXPECT_EQ(visited, places);
     EXPECT_EQ(platform::findUnit(text, 72, OneOf<u'*'>()), 400U);
-    visited.clear();
-    platform::forEachLiteral(text, u"-*", 5, text.size(), visit);
-    EXPECT_EQ(visited, (std::vector<std::size_t>{69, 399, 959, 998}));
 }
 
 TEST(UnitSearch, FindsManyMoreThanAreNotedDownAtOnce)
@@ -155,9 +161,6 @@ TEST(UnitSearch, FindsManyMoreThanAreNotedDownAtOnce)
     std::size_t next = 3;
     platform::forEachUnit(text, 3, OneOf<u'*'>(), [&](std::size_t at) { EXPECT_EQ(at, next++); });
     EXPECT_EQ(next, text.size());
-    next = 3;
-    platform::forEachLiteral<Expected::Often>(text, u"**", 3, 19000, [&](std::size_t at) { EXPECT_EQ(at, next++); });
-    EXPECT_EQ(next, 19000U);
 }
 
 TEST(UnitSearch, FindsTheLastUnitBetweenTwoPlaces)
@@ -172,42 +175,4 @@ TEST(UnitSearch, FindsTheLastUnitBetweenTwoPlaces)
             indicesUnitByUnit(std::u16string_view(text).substr(0, until), from, kind);
         EXPECT_EQ(platform::findBehindLastUnit(text, from, until, kind), indices.empty() ? from : indices.back() + 1);
     }
-}
-
-TEST(UnitSearch, VisitsEveryPlaceOfALiteralOverlappingOnesIncluded)
-{
-    std::mt19937 random(4);
-    const std::u16string_view units = u"aaaaaabbb\u1061\u1061\uFF61\x7F";
-    // U+1061 and U+0161 end like the letter a, U+FF61 becomes a byte with a sign.
-    for (const std::u16string_view literal : {u"a", u"aa", u"ab", u"aaa", u"aab", u"aba", u"\u1061", u"\u1061\u1061",
-                                              u"a\u1061", u"\uFF61a", u"\x7F\x7F"}) {
-        for (std::size_t length = 0; length < 300; ++length) {
-            std::u16string text;
-            while (text.size() < length) {
-                text += units[random() % units.size()];
-            }
-            const std::size_t until = random() % (length + 1);
-            const std::size_t from = random() % (until + 1);
-            std::vector<std::size_t> visited;
-            platform::forEachLiteral(text, literal, from, until, [&](std::size_t at) { visited.push_back(at); });
-            const std::vector<std::size_t> expected = placesUnitByUnit(text, literal, from, until);
-            EXPECT_EQ(visited, expected);
-            visited.clear();
-            platform::forEachLiteral<Expected::Often>(text, literal, from, until,
-                                                      [&](std::size_t at) { visited.push_back(at); });
-            EXPECT_EQ(visited, expected);
-        }
-    }
-}
-
-TEST(UnitSearch, OccurrencesAreThePlacesFromTheLeftThatDoNotOverlap)
-{
-    std::vector<std::size_t> visited;
-    platform::forEachOccurrence(u"-------a--", u"--", 1, 10, [&](std::size_t at) { visited.push_back(at); });
-    EXPECT_EQ(visited, (std::vector<std::size_t>{1, 3, 5, 8}));
-}
-
-TEST(UnitSearch, AnEmptyLiteralStandsNowhere)
-{
-    platform::forEachLiteral(u"abc", u"", 0, 3, [](std::size_t) { FAIL(); });
 }
