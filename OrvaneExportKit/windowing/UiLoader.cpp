@@ -1,5 +1,6 @@
 #include <OrvaneExportKit/windowing/UiLoader.h>
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QList>
 #include <QtUiTools/QUiLoader>
@@ -26,16 +27,23 @@ QList<WidgetClass> &registeredClasses()
     return classes;
 }
 
+/// While the object lives, Qt finds no libraries to load.
+class NoLibraryPaths
+{
+public:
+    NoLibraryPaths() { QCoreApplication::setLibraryPaths({}); }
+    NoLibraryPaths(const NoLibraryPaths &) = delete;
+    NoLibraryPaths &operator=(const NoLibraryPaths &) = delete;
+    ~NoLibraryPaths() { QCoreApplication::setLibraryPaths(m_paths); }
+
+private:
+    QStringList m_paths = QCoreApplication::libraryPaths();
+};
+
 /// Knows Qt's own widgets and the registered ones, and keeps the names of all others that a form asks for.
 class FormLoader final : public QUiLoader
 {
 public:
-    FormLoader()
-    {
-        // Classes come from the registry; libraries made for Qt Designer have no place in a running application.
-        clearPluginPaths();
-    }
-
     const QStringList &unknownClasses() const { return m_unknownClasses; }
 
     QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
@@ -59,6 +67,14 @@ private:
     QStringList m_classesOfQt = availableWidgets();
     QStringList m_unknownClasses;
 };
+
+/// A `QUiLoader` runs all libraries of Qt Designer that it finds while it is made. Classes come from the registry;
+/// those libraries have no place in a running application.
+std::unique_ptr<FormLoader> makeLoader()
+{
+    const NoLibraryPaths none;
+    return std::make_unique<FormLoader>();
+}
 
 /// Tells the widgets that want to know it that they have been loaded.
 void awaken(const QWidget &form)
@@ -100,13 +116,13 @@ std::unique_ptr<QWidget> UiLoader::loadForm(const platform::Bundle &bundle, cons
     if (!file.open(QIODevice::ReadOnly)) {
         throw interfaceFileError(path, file.errorString());
     }
-    FormLoader loader;
-    std::unique_ptr<QWidget> form(loader.load(&file));
+    const std::unique_ptr<FormLoader> loader = makeLoader();
+    std::unique_ptr<QWidget> form(loader->load(&file));
     if (form == nullptr) {
-        throw interfaceFileError(path, loader.errorString());
+        throw interfaceFileError(path, loader->errorString());
     }
-    if (!loader.unknownClasses().isEmpty()) {
-        throw interfaceFileError(path, u"no widget class %1 is known"_s.arg(loader.unknownClasses().join(u", "_s)));
+    if (!loader->unknownClasses().isEmpty()) {
+        throw interfaceFileError(path, u"no widget class %1 is known"_s.arg(loader->unknownClasses().join(u", "_s)));
     }
     if (!form->metaObject()->inherits(&type)) {
         throw interfaceFileError(path, u"the form is no %1"_s.arg(QString::fromLatin1(type.className())));

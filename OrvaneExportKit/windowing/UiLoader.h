@@ -47,6 +47,10 @@ private:
 
 /// Loads interface files made with Qt Designer from a bundle, and finds the objects in them.
 ///
+/// Classes are Qt's own and those that are registered. No library is loaded for them, whatever the folders of Qt
+/// Designer hold; to keep them out, a load empties Qt's library paths for a moment, in which another thread that needs
+/// a Qt plug-in for the first time may miss it. For use on the application's main thread.
+///
 ///     const auto panel = windowing::UiLoader::load<QDialog>(platform::Bundle::kitBundle(), u"ExistingFiles"_s);
 ///     auto *infoField = windowing::UiLoader::outlet<QLabel>(*panel, u"infoField"_s);
 ///     QObject::connect(windowing::UiLoader::outlet<QPushButton>(*panel, u"cancelButton"_s), &QPushButton::clicked,

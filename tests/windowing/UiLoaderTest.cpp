@@ -11,6 +11,11 @@
 #include <gtest/gtest.h>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QPluginLoader>
+#include <QtCore/QProcess>
+#include <QtCore/QProcessEnvironment>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTranslator>
 #include <QtWidgets/QLabel>
@@ -199,6 +204,39 @@ TEST_F(UiLoaderTest, TranslatesTextsInTheContextOfTheFormsClass)
     writePanel();
     const PanelTranslator translator;
     EXPECT_EQ(UiLoader::outlet<QLabel>(*load(), u"message"_s)->text(), u"Meldung"_s);
+}
+
+/// Set by the code of the library that stands in a folder of Qt Designer.
+constexpr const char *designerLibraryRan = "ORVANE_TEST_DESIGNER_LIBRARY_RAN";
+
+TEST_F(UiLoaderTest, RunsNoLibraryOfADesignerFolder)
+{
+    const QString library = QStringLiteral(DESIGNER_LIBRARY);
+    EXPECT_EQ(QFileInfo(library).path(), QCoreApplication::applicationDirPath() + u"/designer"_s);
+    const QStringList libraryPaths = QCoreApplication::libraryPaths();
+    writePanel();
+    load();
+    EXPECT_FALSE(qEnvironmentVariableIsSet(designerLibraryRan));
+    EXPECT_EQ(QCoreApplication::libraryPaths(), libraryPaths);
+    EXPECT_TRUE(QPluginLoader(library).load()); // and were it loaded, it would be known
+    EXPECT_TRUE(qEnvironmentVariableIsSet(designerLibraryRan));
+}
+
+TEST_F(UiLoaderTest, RunsNoLibraryOfADesignerFolderThatTheEnvironmentNames)
+{
+    const QTemporaryDir plugins;
+    EXPECT_TRUE(QDir(plugins.path()).mkdir(u"designer"_s));
+    EXPECT_TRUE(QFile::copy(QStringLiteral(DESIGNER_LIBRARY), plugins.filePath(u"designer/library.so"_s)));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"QT_PLUGIN_PATH"_s, plugins.path());
+    environment.remove(QString::fromLatin1(designerLibraryRan)); // which the test before this one has set
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.start(QCoreApplication::applicationFilePath(),
+                  {u"--gtest_filter=UiLoaderTest.RunsNoLibraryOfADesignerFolder"_s});
+    EXPECT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitCode(), 0);
 }
 
 } // namespace
