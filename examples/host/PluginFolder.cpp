@@ -59,9 +59,13 @@ ExportPlugin *loadedPlugin(const QString &path)
         throw pluginError(Texts::tr("it is no Qt plug-in: %1").arg(loader.errorString()));
     }
     requireOwnInterface(identifier);
+    // A symbol that is missing shows now, and not when the plug-in is in the middle of its work.
+    loader.setLoadHints(loader.loadHints() | QLibrary::ResolveAllSymbolsHint);
     QObject *instance = loader.instance();
     if (instance == nullptr) {
-        throw pluginError(loader.errorString());
+        throw pluginError(Texts::tr("it can't be loaded: %1; install what it needs, or rebuild it against the kit that "
+                                    "this program came with")
+                              .arg(printable(loader.errorString())));
     }
     auto *plugin = qobject_cast<ExportPlugin *>(instance);
     if (plugin == nullptr) {

@@ -161,6 +161,13 @@ TEST_F(PluginFolder, PluginThatFailsWhileItIsCreated)
     EXPECT_TRUE(reportsBadFile(u"unloadable.so"_s, {u"failed while it was loaded: the ink is missing"_s}));
 }
 
+TEST_F(PluginFolder, PluginBuiltAgainstANewerKitIsRefused)
+{
+    addTestPlugin(u"newer"_s);
+    EXPECT_TRUE(reportsBadFile(u"newer.so"_s, {u"it can't be loaded: "_s, u"operationOfANewerKit"_s,
+                                               u"rebuild it against the kit that this program came with"_s}));
+}
+
 TEST_F(PluginFolder, SecondPluginOfOneName)
 {
     copyInto(plugins(), plainTextPlugin);
