@@ -5,6 +5,7 @@
 #include <OrvaneExportKit/platform/KeyPaths.h>
 #include <OrvaneExportKit/windowing/ArchivedViews.h>
 #include <OrvaneExportKit/windowing/Binding.h>
+#include <OrvaneExportKit/windowing/EventGuard.h>
 #include <OrvaneExportKit/windowing/Font.h>
 #include <OrvaneExportKit/windowing/FontPanel.h>
 #include <OrvaneExportKit/windowing/Frames.h>
@@ -20,6 +21,8 @@
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;
+using windowing::guardedAction;
+using windowing::guardedDisplay;
 
 namespace {
 
@@ -222,12 +225,16 @@ void KZFontNameTextField::openFontPanel()
     windowing::FontPanel::sharedFontPanel().orderFront();
 }
 
+void KZFontNameTextField::showHelp(const QHelpEvent &help)
+{
+    const QString hint = tr("Double-click or press Space to choose a font");
+    QToolTip::showText(help.globalPos(), text() + u'\n' + hint, this);
+}
+
 bool KZFontNameTextField::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
-        const auto *help = static_cast<QHelpEvent *>(event);
-        const QString hint = tr("Double-click or press Space to choose a font");
-        QToolTip::showText(help->globalPos(), text() + u'\n' + hint, this);
+        guardedDisplay(*this, [this, event] { showHelp(*static_cast<const QHelpEvent *>(event)); });
         return true;
     }
     return TextField::event(event);
@@ -238,8 +245,10 @@ void KZFontNameTextField::changeEvent(QEvent *event)
     TextField::changeEvent(event);
     const bool changesLook = event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange;
     if (changesLook && m_fieldAttributes) {
-        awakeFromNib();
-        setFontNameWithFont({});
+        guardedDisplay(*this, [this] {
+            awakeFromNib();
+            setFontNameWithFont({});
+        });
     }
 }
 
@@ -247,14 +256,14 @@ void KZFontNameTextField::focusInEvent(QFocusEvent *event)
 {
     TextField::focusInEvent(event);
     if (windowing::FontPanel::sharedFontPanelExists()) {
-        showInFontPanel();
+        guardedAction(*this, [this] { showInFontPanel(); });
     }
 }
 
 void KZFontNameTextField::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier) {
-        openFontPanel();
+        guardedAction(*this, [this] { openFontPanel(); });
         return;
     }
     TextField::keyPressEvent(event);
@@ -263,7 +272,7 @@ void KZFontNameTextField::keyPressEvent(QKeyEvent *event)
 void KZFontNameTextField::mouseDoubleClickEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton) {
-        openFontPanel();
+        guardedAction(*this, [this] { openFontPanel(); });
         return;
     }
     TextField::mouseDoubleClickEvent(event);

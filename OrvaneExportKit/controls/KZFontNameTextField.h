@@ -12,6 +12,8 @@
 #include <memory>
 #include <optional>
 
+class QHelpEvent;
+
 namespace windowing {
 class FontPanel;
 }
@@ -112,6 +114,7 @@ private:
     void editSelectedFontSize(double size) { setSelectedFontSize(static_cast<float>(size)); }
     QVariantMap attributesOrNone() const { return m_selectedFontAttributes.toMap(); }
     void takeAttributes(const QVariantMap &attributes);
+    void showHelp(const QHelpEvent &help);
     void showInFontPanel() const;
     void openFontPanel();
 

@@ -13,8 +13,7 @@ QString counterpart(const char *operation, const QString &string, const QStringL
     if (index < 0) {
         return string;
     }
-    platform::requireRange(operation, {static_cast<std::size_t>(index), 1},
-                           static_cast<std::size_t>(counterparts.size()));
+    platform::requireIndex(operation, index, static_cast<std::size_t>(counterparts.size()));
     return counterparts[index];
 }
 

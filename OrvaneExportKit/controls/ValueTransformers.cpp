@@ -83,7 +83,7 @@ QVariant KZLocaleTransformer::transformedValue(const QVariant &value) const
 QVariant KZLocaleTransformer::reverseTransformedValue(const QVariant &value) const
 {
     const qint32 index = platform::intValue(value);
-    platform::requireRange("KZLocaleTransformer::reverseTransformedValue", {static_cast<std::size_t>(index), 1},
+    platform::requireIndex("KZLocaleTransformer::reverseTransformedValue", index,
                            static_cast<std::size_t>(m_localeArray.size()));
     return m_localeArray[index];
 }

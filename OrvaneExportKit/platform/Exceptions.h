@@ -3,6 +3,7 @@
 #include <OrvaneExportKit/ExportMacros.h>
 #include <OrvaneExportKit/platform/Range.h>
 
+#include <cstddef>
 #include <stdexcept>
 #include <string>
 
@@ -25,7 +26,7 @@ public:
     ~Exception() override;
 };
 
-/// A range reaches past the end of the text that it was used on.
+/// A range reaches past the end of the text that it was used on, or an index lies outside its list.
 ///
 /// Operations over several ranges work from the highest location downwards; what they changed before they met the
 /// range stays changed.
@@ -36,6 +37,9 @@ class ORVANE_CORE_EXPORT RangeException : public Exception
 public:
     /// `operation` is the name of the function that was called, `textLength` the units the text had at that moment.
     RangeException(const std::string &operation, Range range, std::size_t textLength);
+
+    /// `index` may also be negative. The range is then the one element at the index, the text length that of the list.
+    RangeException(const std::string &operation, std::ptrdiff_t index, std::size_t listLength);
     ~RangeException() override;
 
     /// What the constructor was given.
@@ -73,5 +77,10 @@ public:
 
 /// Throws a `RangeException` unless `range` lies inside a text of `textLength` units.
 ORVANE_CORE_EXPORT void requireRange(const char *operation, Range range, std::size_t textLength);
+
+/// Throws a `RangeException` unless a list of `listLength` elements has one at `index`.
+///
+///     requireIndex("displayString", 2, 2);   // "displayString: the index 2 lies outside a list of 2"
+ORVANE_CORE_EXPORT void requireIndex(const char *operation, std::ptrdiff_t index, std::size_t listLength);
 
 } // namespace platform

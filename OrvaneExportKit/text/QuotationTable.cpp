@@ -46,7 +46,7 @@ QuotationMarks marksInTable(const QVariantMap &table, const QString &language)
     if (!entries) {
         return {};
     }
-    requireRange("quotationMarks", {0, 1}, static_cast<std::size_t>(entries->size()));
+    requireIndex("quotationMarks", 0, static_cast<std::size_t>(entries->size()));
     const auto marks = required<QVariantMap>(entries->constFirst(), language + u"[0]"_s);
     return {member<QString>(marks, u"begin"_s), member<QString>(marks, u"end"_s)};
 }

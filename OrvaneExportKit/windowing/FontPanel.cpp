@@ -1,5 +1,6 @@
 #include <OrvaneExportKit/windowing/FontPanel.h>
 
+#include <OrvaneExportKit/windowing/EventGuard.h>
 #include <OrvaneExportKit/windowing/Font.h>
 #include <OrvaneExportKit/windowing/TextAttributes.h>
 #include <OrvaneExportKit/windowing/TextField.h>
@@ -100,25 +101,32 @@ FontPanel::FontPanel()
     setSelectedFont(Font::userFontOfSize(12.0));
     setSelectedAttributes({});
 
-    connect(m_family, &QComboBox::activated, this, [this] {
+    connectControls();
+    rememberFocus(QApplication::focusWidget());
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget * /*old*/, QWidget *now) { rememberFocus(now); });
+}
+
+/// What the user changes goes to other objects, which may refuse it.
+void FontPanel::connectControls()
+{
+    const auto onChange = [this](auto *control, auto changed, const auto &work) {
+        connect(control, changed, this, [this, work] { guardedAction(*this, work); });
+    };
+    onChange(m_family, &QComboBox::activated, [this] {
         showStyles(m_family->currentFont());
         fontChanged(FontChange::FamilyAndStyle);
     });
-    connect(m_style, &QComboBox::activated, this, [this] { fontChanged(FontChange::FamilyAndStyle); });
-    connect(m_size, &QDoubleSpinBox::valueChanged, this, [this] { fontChanged(FontChange::Size); });
-    connect(m_underline, &QCheckBox::toggled, this,
-            [this](bool on) { attributeChanged(underlineStyleAttributeName, on ? QVariant(1) : QVariant()); });
-    connect(m_strikethrough, &QCheckBox::toggled, this,
-            [this](bool on) { attributeChanged(strikethroughStyleAttributeName, on ? QVariant(1) : QVariant()); });
-    connect(m_textColor.isSet, &QCheckBox::toggled, this, &FontPanel::textColorChanged);
-    connect(m_background.isSet, &QCheckBox::toggled, this, &FontPanel::backgroundColorChanged);
-    connect(m_textColor.button, &QPushButton::clicked, this,
-            [this] { chooseColor(m_textColor, &FontPanel::textColorChanged); });
-    connect(m_background.button, &QPushButton::clicked, this,
-            [this] { chooseColor(m_background, &FontPanel::backgroundColorChanged); });
-
-    rememberFocus(QApplication::focusWidget());
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget * /*old*/, QWidget *now) { rememberFocus(now); });
+    onChange(m_style, &QComboBox::activated, [this] { fontChanged(FontChange::FamilyAndStyle); });
+    onChange(m_size, &QDoubleSpinBox::valueChanged, [this] { fontChanged(FontChange::Size); });
+    onChange(m_underline, &QCheckBox::toggled, [this] { lineChanged(underlineStyleAttributeName, *m_underline); });
+    onChange(m_strikethrough, &QCheckBox::toggled,
+             [this] { lineChanged(strikethroughStyleAttributeName, *m_strikethrough); });
+    onChange(m_textColor.isSet, &QCheckBox::toggled, [this] { textColorChanged(); });
+    onChange(m_background.isSet, &QCheckBox::toggled, [this] { backgroundColorChanged(); });
+    onChange(m_textColor.button, &QPushButton::clicked,
+             [this] { chooseColor(m_textColor, &FontPanel::textColorChanged); });
+    onChange(m_background.button, &QPushButton::clicked,
+             [this] { chooseColor(m_background, &FontPanel::backgroundColorChanged); });
 }
 
 /// A dialog that goes while it has the focus moves the focus once more, when it is a font panel no longer.
@@ -324,6 +332,11 @@ void FontPanel::attributeChanged(const QString &name, const QVariant &value)
     sendToLastFocused("changeAttributes");
 }
 
+void FontPanel::lineChanged(const QString &name, const QCheckBox &box)
+{
+    attributeChanged(name, box.isChecked() ? QVariant(1) : QVariant());
+}
+
 void FontPanel::textColorChanged()
 {
     attributeChanged(foregroundColorAttributeName,
@@ -348,8 +361,10 @@ void FontPanel::chooseColor(ColorChoice &choice, void (FontPanel::*changed)())
     dialog->setOption(QColorDialog::ShowAlphaChannel);
     dialog->setWindowTitle(choice.button->accessibleName());
     connect(dialog, &QColorDialog::colorSelected, this, [this, &choice, changed](const QColor &color) {
-        showColor(choice, color);
-        (this->*changed)();
+        guardedAction(*this, [this, &choice, &color, changed] {
+            showColor(choice, color);
+            (this->*changed)();
+        });
     });
     dialog->open();
 }

@@ -92,6 +92,7 @@ private:
 
     FontPanel();
     void layOut();
+    void connectControls();
     void setTexts();
     void rememberFocus(QWidget *widget);
 
@@ -102,6 +103,7 @@ private:
 
     void fontChanged(FontChange change);
     void attributeChanged(const QString &name, const QVariant &value);
+    void lineChanged(const QString &name, const QCheckBox &box);
     void textColorChanged();
     void backgroundColorChanged();
     void chooseColor(ColorChoice &choice, void (FontPanel::*changed)());

@@ -10,7 +10,9 @@
 using platform::Exception;
 using platform::InvalidArgumentException;
 using platform::RangeException;
+using platform::requireIndex;
 using platform::requireRange;
+using support::throwsIndexException;
 using support::throwsRangeException;
 
 namespace {
@@ -94,6 +96,19 @@ TEST(RequireRange, ThrowsForRangesWhoseEndOverflows)
             requireRange("cutUnits", {largest, largest}, 9);
         },
         "cutUnits", {largest, largest}, 9));
+}
+
+TEST(RequireIndex, AcceptsWhatTheListHolds)
+{
+    EXPECT_NO_THROW(requireIndex("takeElement", 0, 1));
+    EXPECT_NO_THROW(requireIndex("takeElement", 8, 9));
+}
+
+TEST(RequireIndex, ThrowsOutsideTheListAndSpeaksOfAList)
+{
+    EXPECT_TRUE(throwsIndexException([] { requireIndex("takeElement", 0, 0); }, "takeElement", 0, 0));
+    EXPECT_TRUE(throwsIndexException([] { requireIndex("takeElement", 9, 9); }, "takeElement", 9, 9));
+    EXPECT_TRUE(throwsIndexException([] { requireIndex("takeElement", -1, 9); }, "takeElement", -1, 9));
 }
 
 } // namespace

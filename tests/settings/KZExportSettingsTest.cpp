@@ -1,11 +1,11 @@
 #include <OrvaneExportKit/settings/KZExportSettings.h>
 
 #include <OrvaneExportKit/controls/ValueTransformers.h>
-#include <OrvaneExportKit/platform/ErrorAlert.h>
 #include <OrvaneExportKit/platform/PropertyList.h>
 #include <OrvaneExportKit/platform/ValueTransformer.h>
 
 #include <tests/support/Printers.h>
+#include <tests/support/RecordingAlert.h>
 #include <tests/support/TemporaryDefaults.h>
 
 #include <QtCore/QDateTime>
@@ -17,24 +17,9 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 using platform::UserDefaults;
+using support::RecordingAlert;
 
 const QString domainName = u"com.example.settings-test"_s;
-
-class RecordingAlert final : public platform::ErrorAlert
-{
-public:
-    RecordingAlert() : m_before(platform::setErrorAlert(this)) {}
-    RecordingAlert(const RecordingAlert &) = delete;
-    RecordingAlert &operator=(const RecordingAlert &) = delete;
-    ~RecordingAlert() override { platform::setErrorAlert(m_before); }
-
-    void runModal(const QString &errorDescription) override { errors.append(errorDescription); }
-
-    QStringList errors;
-
-private:
-    platform::ErrorAlert *m_before;
-};
 
 /// What observers of a settings object are told, in order: "will KEY VALUE" and "did KEY VALUE" with the value stored
 /// at that moment.

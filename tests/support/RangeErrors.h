@@ -37,4 +37,26 @@ testing::AssertionResult throwsRangeException(const Call &call, const std::strin
     return testing::AssertionFailure() << "threw nothing";
 }
 
+/// The same for an index outside a list.
+///
+///     EXPECT_TRUE(throwsIndexException([&] { requireIndex("take", 5, 5); }, "take", 5, 5));
+template <typename Call>
+testing::AssertionResult throwsIndexException(const Call &call, const std::string &operation, std::ptrdiff_t index,
+                                              std::size_t listLength)
+{
+    try {
+        call();
+    } catch (const platform::RangeException &exception) {
+        const std::string expected = operation + ": the index " + std::to_string(index) + " lies outside a list of " +
+                                     std::to_string(listLength);
+        const platform::Range element{static_cast<std::size_t>(index), 1};
+        if (exception.what() != expected || exception.range() != element || exception.textLength() != listLength) {
+            return testing::AssertionFailure() << "threw range " << testing::PrintToString(exception.range())
+                                               << ", length " << exception.textLength() << ": " << exception.what();
+        }
+        return testing::AssertionSuccess();
+    }
+    return testing::AssertionFailure() << "threw nothing";
+}
+
 } // namespace support

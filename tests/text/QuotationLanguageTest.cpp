@@ -115,8 +115,8 @@ TYPED_TEST(ConvertQuotationsByTable, RaisesTheRangeErrorForAnEmptyArrayAndChange
 {
     this->m_folder.write(QVariantMap{{u"de"_s, QVariantList()}});
     TypeParam text(u"\"a\""_s);
-    EXPECT_TRUE(support::throwsRangeException([&text] { convertQuotationsToLanguage(text, u"de"_s); }, "quotationMarks",
-                                              {0, 1}, 0));
+    EXPECT_TRUE(
+        support::throwsIndexException([&text] { convertQuotationsToLanguage(text, u"de"_s); }, "quotationMarks", 0, 0));
     EXPECT_EQ(plain(text), u"\"a\""_s);
 }
 

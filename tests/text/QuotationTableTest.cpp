@@ -120,8 +120,8 @@ TEST_F(QuotationTable, IsReadAnewByEveryCall)
 TEST_F(QuotationTable, RaisesTheRangeErrorForAnEmptyArray)
 {
     m_folder.write(QVariantMap{{u"de"_s, QVariantList()}});
-    EXPECT_TRUE(support::throwsRangeException([this] { marks(u"de"_s); }, "quotationMarks", {0, 1}, 0));
-    EXPECT_TRUE(support::throwsRangeException([this] { samples(); }, "quotationMarks", {0, 1}, 0));
+    EXPECT_TRUE(support::throwsIndexException([this] { marks(u"de"_s); }, "quotationMarks", 0, 0));
+    EXPECT_TRUE(support::throwsIndexException([this] { samples(); }, "quotationMarks", 0, 0));
 }
 
 TEST_F(QuotationTable, RefusesALanguageWhoseValueIsNoArray)
