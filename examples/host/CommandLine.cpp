@@ -46,16 +46,17 @@ Environment:
                       orvane-export-kit in the user's configuration folder
 
 Output:
-  Standard output lists the files that were written, one a line. Standard error
-  takes progress (at a terminal), warnings and errors, each of which says what
-  went wrong and what to do. A file is there as a whole or not at all. Ctrl-C
-  stops after the current document, a second Ctrl-C at once.
+  Standard output lists the files, one a line, as they are written. Standard
+  error takes progress (at a terminal), warnings and errors, each of which says
+  what went wrong and what to do. A file is there as a whole or not at all, also
+  where a plug-in ends the program. Ctrl-C stops after the current document, a
+  second Ctrl-C at once.
 
 Exit codes:
     0  all documents were exported
     1  the command line is wrong, or the plug-in refuses a choice
     2  the manuscript, one of its documents or the settings can't be read
-    3  the plug-in can't be loaded, or failed
+    3  the plug-in can't be loaded, failed, or ended the program
     4  the files or the settings can't be written, or not under these names
     5  files exist and were not to be replaced
     6  there is no display for a window

@@ -6,6 +6,7 @@
 #include "Messages.h"
 #include "OutputPaths.h"
 #include "PluginChoices.h"
+#include "Supervisor.h"
 #include "Terminal.h"
 
 #include <OrvaneExportKit/platform/Paths.h>
@@ -49,7 +50,7 @@ void confirmReplacing(const QStringList &paths)
     }
 }
 
-/// Tells at the end of an export which files were written, however it ends.
+/// Tells at the end of an export how far it came, however it ends.
 class ExportReport
 {
 public:
@@ -62,9 +63,6 @@ public:
 
     ~ExportReport()
     {
-        for (const QString &path : m_files.written()) {
-            printResult(path + u'\n');
-        }
         const qsizetype done = m_files.writtenDocumentCount();
         const QString documents = counted(m_files.documentCount(), u"document"_s);
         const QString exported = done == m_files.documentCount() ? documents : u"%1 of %2"_s.arg(done).arg(documents);
@@ -77,20 +75,38 @@ private:
     const QString &m_folder;
 };
 
-void writeFiles(ExportFiles &files, const ExportPlugin &plugin)
+/// Lists the files as soon as they are written, for a plug-in may end the program with the next one.
+class WrittenFiles
 {
-    const CrashMessage crash;
+public:
+    explicit WrittenFiles(const ExportFiles &files) : m_files(files) {}
+
+    void listNew(const ProgressLine &progress)
+    {
+        progress.show({});
+        for (; m_listed < m_files.written().size(); ++m_listed) {
+            printResult(m_files.written()[m_listed] + u'\n');
+        }
+    }
+
+private:
+    const ExportFiles &m_files;
+    qsizetype m_listed = 0;
+};
+
+void writeFiles(ExportFiles &files)
+{
     const InterruptionWatch interruptions;
     const ProgressLine progress;
+    WrittenFiles written(files);
     while (!files.allWritten()) {
         if (interruptions.wasInterrupted()) {
             throw HostError(ExitCode::Interrupted, u"the export was interrupted; export again for the rest"_s);
         }
         progress.show(
             u"%1/%2 %3"_s.arg(files.written().size() + 1).arg(files.count()).arg(printable(files.nextName())));
-        crash.set(u"the plug-in %1 crashed on %2; the files before it are whole, this one is as it was; change the "
-                  "document or the plug-in's choices, and export again"_s.arg(plugin.name(), files.nextDescription()));
         files.writeNext();
+        written.listNew(progress);
     }
 }
 
@@ -110,7 +126,7 @@ void runExport(const ExportRequest &request, const PluginFolder &plugins)
     const QString folder = destinationFolder(request.names);
     ExportFiles files(manuscript, plugin, paths);
     const ExportReport report(files, manuscript.title, folder);
-    writeFiles(files, plugin);
+    writeFiles(files);
 }
 
 } // namespace host

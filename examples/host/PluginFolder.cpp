@@ -2,6 +2,8 @@
 
 #include "HostError.h"
 #include "Messages.h"
+#include "WatchedPlugin.h"
+#include "WorkRecord.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
@@ -10,6 +12,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -51,7 +54,7 @@ void requireOwnInterface(const QString &identifier)
 }
 
 /// Loads the plug-in in a file. What the metadata rules out is never loaded, so none of its code runs.
-ExportPlugin *loadedPlugin(const QString &path)
+std::unique_ptr<ExportPlugin> loadedPlugin(const QString &path)
 {
     QPluginLoader loader(path);
     const QString identifier = loader.metaData().value("IID"_L1).toString();
@@ -61,6 +64,7 @@ ExportPlugin *loadedPlugin(const QString &path)
     requireOwnInterface(identifier);
     // A symbol that is missing shows now, and not when the plug-in is in the middle of its work.
     loader.setLoadHints(loader.loadHints() | QLibrary::ResolveAllSymbolsHint);
+    const PluginCall call(u"the plug-in "_s + quoted(path), u"its loading"_s);
     QObject *instance = loader.instance();
     if (instance == nullptr) {
         throw pluginError(Texts::tr("it can't be loaded: %1; install what it needs, or rebuild it against the kit that "
@@ -72,22 +76,21 @@ ExportPlugin *loadedPlugin(const QString &path)
         throw pluginError(Texts::tr("its class %1 does not offer the interface that its metadata names")
                               .arg(QLatin1StringView(instance->metaObject()->className())));
     }
-    return plugin;
+    return std::unique_ptr<ExportPlugin>(plugin);
 }
 
 /// Asks a plug-in for all that it says of itself, so that one that fails on it is known before it is used.
 void requireAnswers(const ExportPlugin &plugin)
 {
-    plugin.name();
     plugin.displayName();
     plugin.pathExtension();
     plugin.choices();
 }
 
-QStringList namesOf(const QList<ExportPlugin *> &plugins)
+QStringList namesOf(const std::vector<std::unique_ptr<ExportPlugin>> &plugins)
 {
     QStringList names;
-    for (const ExportPlugin *plugin : plugins) {
+    for (const auto &plugin : plugins) {
         names.append(plugin->name());
     }
     return names;
@@ -109,11 +112,29 @@ PluginFolder::PluginFolder(const QString &path) : m_path(path)
     }
 }
 
+PluginFolder::~PluginFolder()
+{
+    const QStringList names = namesOf(m_plugins);
+    m_plugins.clear();
+    if (!names.isEmpty()) {
+        PluginCall::noteLast(u"one of the plug-ins "_s + printable(names.join(", "_L1)), u"the end of the program"_s);
+    }
+}
+
+QList<ExportPlugin *> PluginFolder::plugins() const
+{
+    QList<ExportPlugin *> plugins;
+    for (const auto &plugin : m_plugins) {
+        plugins.append(plugin.get());
+    }
+    return plugins;
+}
+
 ExportPlugin &PluginFolder::pluginNamed(const QString &name) const
 {
     ExportPlugin *plugin = findPlugin(name);
     if (plugin == nullptr) {
-        const QString names = m_plugins.isEmpty() ? Texts::tr("none") : namesOf(m_plugins).join(", "_L1);
+        const QString names = m_plugins.empty() ? Texts::tr("none") : namesOf(m_plugins).join(", "_L1);
         throw pluginError(Texts::tr("there is no plug-in %1 in the folder %2; it holds: %3")
                               .arg(quoted(name), quoted(m_path), names) +
                           listed(m_problems));
@@ -124,19 +145,19 @@ ExportPlugin &PluginFolder::pluginNamed(const QString &name) const
 ExportPlugin *PluginFolder::findPlugin(const QString &name) const
 {
     const auto found = std::find_if(m_plugins.begin(), m_plugins.end(),
-                                    [&name](const ExportPlugin *plugin) { return plugin->name() == name; });
-    return found == m_plugins.end() ? nullptr : *found;
+                                    [&name](const auto &plugin) { return plugin->name() == name; });
+    return found == m_plugins.end() ? nullptr : found->get();
 }
 
 void PluginFolder::add(const QString &file)
 {
     QString reason = Texts::tr("it failed while it was loaded");
     try {
-        ExportPlugin *plugin = loadedPlugin(file);
+        auto plugin = std::make_unique<WatchedPlugin>(loadedPlugin(file), file);
         requireAnswers(*plugin);
         if (findPlugin(plugin->name()) == nullptr) {
-            m_plugins.append(plugin);
-            m_metadata.insert(plugin, QPluginLoader(file).metaData().value("MetaData"_L1).toObject());
+            m_metadata.insert(plugin.get(), QPluginLoader(file).metaData().value("MetaData"_L1).toObject());
+            m_plugins.push_back(std::move(plugin));
             return;
         }
         reason = Texts::tr("the folder holds another plug-in of the name %1").arg(quoted(plugin->name()));

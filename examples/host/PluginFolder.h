@@ -8,18 +8,28 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <memory>
+#include <vector>
+
 namespace host {
 
-/// The export plug-ins of one folder, loaded. Plug-ins stay loaded until the program ends.
+/// The export plug-ins of one folder, loaded. The libraries stay loaded until the program ends.
 class PluginFolder
 {
 public:
     /// Loads every shared library of the folder that is an export plug-in for this version of the interface.
     /// The code of any other library does not run. Throws `HostError` when there is no such folder.
     explicit PluginFolder(const QString &path);
+    PluginFolder(const PluginFolder &) = delete;
+    PluginFolder &operator=(const PluginFolder &) = delete;
+    PluginFolder(PluginFolder &&) = default;
+    PluginFolder &operator=(PluginFolder &&) = default;
+    ~PluginFolder();
 
     const QString &path() const { return m_path; }
-    const QList<ExportPlugin *> &plugins() const { return m_plugins; }
+
+    /// The plug-ins, which end with the folder.
+    QList<ExportPlugin *> plugins() const;
 
     /// What the metadata file of a plug-in says: "version", "description". Empty for one without such a file.
     QJsonObject metadataOf(const ExportPlugin &plugin) const { return m_metadata.value(&plugin); }
@@ -35,7 +45,7 @@ private:
     void add(const QString &file);
 
     QString m_path;
-    QList<ExportPlugin *> m_plugins;
+    std::vector<std::unique_ptr<ExportPlugin>> m_plugins;
     QHash<const ExportPlugin *, QJsonObject> m_metadata;
     QStringList m_problems;
 };

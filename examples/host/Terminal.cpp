@@ -5,9 +5,7 @@
 #include <QtCore/QList>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
-#include <csignal>
 #include <cstdio>
 #include <cwchar>
 #include <iostream>
@@ -24,31 +22,8 @@ namespace {
 
 constexpr int assumedWidth = 80;
 
-volatile std::sig_atomic_t interrupted = 0;
-struct sigaction earlierInterruptAction = {};
-struct sigaction earlierTerminateAction = {};
-
-extern "C" void rememberInterruption(int /*signal*/)
-{
-    interrupted = 1;
-}
-
-constexpr std::array crashSignals{SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT};
-
-// The line is kept ready, for nothing can be put together in a program that has crashed.
-std::array<char, 4096> crashLine = {};
-volatile std::sig_atomic_t crashLineLength = 0;
-
-// A stack for the handler alone: the crash may be that of a full stack.
-std::array<char, 65536> crashStack = {};
-
-extern "C" void reportCrash(int signal)
-{
-    const auto length = static_cast<std::size_t>(crashLineLength);
-    static_cast<void>(::write(STDERR_FILENO, crashLine.data(), length) < 0);
-    std::signal(signal, SIG_DFL);
-    std::raise(signal);
-}
+/// Why standard output took no more text at first; 0 as long as it takes all.
+int outputError = 0;
 
 void write(std::FILE *stream, const QString &text)
 {
@@ -88,16 +63,18 @@ QString fitted(const QString &text, int columns)
 
 void printResult(const QString &text)
 {
+    errno = 0;
     write(stdout, text);
+    if ((std::fflush(stdout) != 0 || std::ferror(stdout) != 0) && outputError == 0) {
+        outputError = errno == 0 ? EIO : errno;
+    }
 }
 
-void flushResults()
+void requireAllPrinted()
 {
-    errno = 0;
-    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
-        const QString reason = errno == 0 ? u"writing failed"_s : qt_error_string(errno);
-        throw HostError(ExitCode::Output,
-                        u"standard output takes no more text: %1; free it and run again"_s.arg(reason));
+    if (outputError != 0) {
+        throw HostError(ExitCode::Output, u"standard output takes no more text: %1; free it and run again"_s.arg(
+                                              qt_error_string(outputError)));
     }
 }
 
@@ -147,59 +124,6 @@ void ProgressLine::show(const QString &text) const
         // The last column stays free: a terminal may move on to the next line once it is filled.
         write(stderr, u'\r' + fitted(text, terminalWidth() - 1) + u'\r');
     }
-}
-
-InterruptionWatch::InterruptionWatch()
-{
-    interrupted = 0;
-    struct sigaction action = {};
-    action.sa_handler = rememberInterruption;
-    action.sa_flags = static_cast<int>(SA_RESETHAND);
-    sigaction(SIGINT, &action, &earlierInterruptAction);
-    sigaction(SIGTERM, &action, &earlierTerminateAction);
-}
-
-InterruptionWatch::~InterruptionWatch()
-{
-    sigaction(SIGINT, &earlierInterruptAction, nullptr);
-    sigaction(SIGTERM, &earlierTerminateAction, nullptr);
-}
-
-bool InterruptionWatch::wasInterrupted() const
-{
-    return interrupted != 0;
-}
-
-CrashMessage::CrashMessage()
-{
-    stack_t stack = {};
-    stack.ss_sp = crashStack.data();
-    stack.ss_size = crashStack.size();
-    sigaltstack(&stack, nullptr);
-    struct sigaction action = {};
-    action.sa_handler = reportCrash;
-    action.sa_flags = SA_ONSTACK | SA_NODEFER;
-    for (const int signal : crashSignals) {
-        sigaction(signal, &action, nullptr);
-    }
-}
-
-CrashMessage::~CrashMessage()
-{
-    for (const int signal : crashSignals) {
-        std::signal(signal, SIG_DFL);
-    }
-    stack_t stack = {};
-    stack.ss_flags = SS_DISABLE;
-    sigaltstack(&stack, nullptr);
-}
-
-void CrashMessage::set(const QString &message) const
-{
-    const QByteArray line = (u"orvane-host: "_s + message + u'\n').toLocal8Bit().right(qsizetype{crashLine.size()});
-    crashLineLength = 0;
-    std::copy(line.begin(), line.end(), crashLine.begin());
-    crashLineLength = static_cast<std::sig_atomic_t>(line.size());
 }
 
 } // namespace host

@@ -3,16 +3,16 @@
 #include <QtCore/QString>
 
 /// \file
-/// Everything that the program asks of the terminal and of the system's signals. Results go to standard output;
+/// Everything that the program asks of the terminal. Results go to standard output;
 /// messages, questions and progress go to standard error.
 
 namespace host {
 
-/// Writes text to standard output.
+/// Writes text to standard output, at once, for what a program has done must be known however it ends.
 void printResult(const QString &text);
 
-/// Makes sure that all results have left the program; throws `HostError` when they could not.
-void flushResults();
+/// Throws `HostError` when results could not be written.
+void requireAllPrinted();
 
 /// Writes a line to standard error.
 void printMessage(const QString &line);
@@ -44,33 +44,6 @@ public:
 
 private:
     bool m_isVisible;
-};
-
-/// While the object lives, the first interruption (Ctrl-C or a request to terminate) is remembered in place of ending
-/// the program; a second one ends it. There is at most one such object.
-class InterruptionWatch
-{
-public:
-    InterruptionWatch();
-    InterruptionWatch(const InterruptionWatch &) = delete;
-    InterruptionWatch &operator=(const InterruptionWatch &) = delete;
-    ~InterruptionWatch();
-
-    bool wasInterrupted() const;
-};
-
-/// While the object lives, a crash of the program writes a line to standard error before it ends the program. There is
-/// at most one such object.
-class CrashMessage
-{
-public:
-    CrashMessage();
-    CrashMessage(const CrashMessage &) = delete;
-    CrashMessage &operator=(const CrashMessage &) = delete;
-    ~CrashMessage();
-
-    /// Replaces the line, which says whose error it is.
-    void set(const QString &message) const;
 };
 
 } // namespace host

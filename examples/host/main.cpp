@@ -3,6 +3,7 @@
 #include "HostError.h"
 #include "PluginFolder.h"
 #include "PluginListing.h"
+#include "Supervisor.h"
 #include "Terminal.h"
 
 #ifdef ORVANE_HOST_WITH_WINDOW
@@ -41,7 +42,7 @@ std::optional<WindowRequest> runCommand(int argc, char *argv[])
     case CommandLine::Task::ShowWindow:
         return commandLine.windowRequest();
     }
-    flushResults();
+    requireAllPrinted();
     return std::nullopt;
 }
 
@@ -53,9 +54,7 @@ int showWindow(int /*argc*/, char * /*argv*/[], const WindowRequest & /*request*
 }
 #endif
 
-} // namespace
-
-int main(int argc, char *argv[])
+int run(int argc, char *argv[])
 {
     try {
         const std::optional<WindowRequest> window = runCommand(argc, argv);
@@ -64,4 +63,11 @@ int main(int argc, char *argv[])
         printError(error.message());
         return static_cast<int>(error.exitCode());
     }
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    return supervised([argc, argv] { return run(argc, argv); });
 }

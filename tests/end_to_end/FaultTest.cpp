@@ -37,16 +37,69 @@ protected:
     }
 
     /// Exports with a plug-in that fails where the document or the environment asks for it.
-    HostResult exportByFailingPlugin(const QString &operation = {}) const
+    HostResult exportByFailingPlugin(const QString &operation = {}, const QString &way = {}) const
+    {
+        return runFailing({u"export"_s, manuscript(), u"--plugin"_s, u"failing"_s, u"--to"_s, destination(),
+                           u"--plugin-folder"_s, plugins(), u"--yes"_s, u"--set"_s, u"ink=blue"_s},
+                          operation, way);
+    }
+
+    static HostResult runFailing(const QStringList &arguments, const QString &operation, const QString &way)
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"FAILING_OPERATION"_s, operation);
+        environment.insert(u"FAILING_WAY"_s, way);
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+        environment.insert(u"ASAN_OPTIONS"_s, u"handle_segv=0"_s); // the crash is the system's to report
         QProcess process;
         process.setProcessEnvironment(environment);
-        process.start(hostProgram, {u"export"_s, manuscript(), u"--plugin"_s, u"failing"_s, u"--to"_s, destination(),
-                                    u"--plugin-folder"_s, plugins(), u"--yes"_s});
+        process.start(hostProgram, arguments);
         return finished(process);
     }
+
+    /// The paths of the files in the destination, a line each.
+    QString listOfFiles() const
+    {
+        QString list;
+        for (const QString &name : filesIn(destination())) {
+            list += exported(name) + u'\n';
+        }
+        return list;
+    }
+};
+
+/// An operation in which a plug-in can end the program.
+struct Operation {
+    QString name;
+    QString description; ///< in the message, from the name of the plug-in on
+
+    friend bool operator==(const Operation &, const Operation &) = default;
+};
+
+const QList<Operation> operationsBeforeWriting{
+    {u"static initialiser"_s, u"failing.so' %1 on its loading; "_s},
+    {u"constructor"_s, u"failing.so' %1 on its loading; "_s},
+    {u"name"_s, u"failing.so' %1 on its name; "_s},
+    {u"displayName"_s, u"failing %1 on the name that users read; "_s},
+    {u"pathExtension"_s, u"failing %1 on the extension of its files; "_s},
+    {u"choices"_s, u"failing %1 on its choices; "_s},
+    {u"settings"_s, u"failing %1 on its settings; "_s},
+    {u"setChoice"_s, u"failing %1 on the choice 'ink'; "_s},
+    {u"additionalFileNames"_s, u"failing %1 on the names of its files; "_s},
+};
+
+const QList<Operation> operationsOfWriting{
+    {u"exportedData"_s, u"failing %1 on the document 'Two'; "_s},
+    {u"additionalFileData"_s, u"failing %1 on the file 'index.txt'; "_s},
+    {u"destructor"_s, u"failing %1 on its end; "_s},
+};
+
+/// Ways to end a program, and how messages call them.
+const QMap<QString, QString> waysToEnd{
+    {u"exit"_s, u"ended the program"_s},       {u"_exit"_s, u"ended the program"_s},
+    {u"_exit 7"_s, u"ended the program"_s},    {u"quick_exit"_s, u"ended the program"_s},
+    {u"terminate"_s, u"crashed (signal 6)"_s}, {u"abort"_s, u"crashed (signal 6)"_s},
+    {u"crash"_s, u"crashed (signal 11)"_s},    {u"kill"_s, u"crashed (signal 9)"_s},
 };
 
 /// A text of its own for each number.
@@ -163,15 +216,63 @@ TEST_F(Fault, PluginThatCrashesIsNamedAndLeavesWholeFilesOnly)
     writeManuscript({{u"One"_s, "1"}, {u"Two"_s, "crash"}, {u"Three"_s, "3"}});
     writeFile(exported(u"002 Two.txt"_s), "old");
     const HostResult result = exportByFailingPlugin();
-    EXPECT_EQ(result.exitCode, -1);
-    EXPECT_TRUE(result.errors.contains("orvane-host: the plug-in failing crashed on the document 'Two'; "_L1))
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_TRUE(result.errors.contains("orvane-host: the plug-in failing crashed (signal 11) on the document 'Two'; "
+                                       "the files that are listed are whole, all others are as they were; "_L1))
         << testing::PrintToString(result.errors);
     EXPECT_EQ(filesIn(destination()), QStringList({u"001 One.txt"_s, u"002 Two.txt"_s}));
+    EXPECT_EQ(result.output, exported(u"001 One.txt"_s) + u'\n');
     EXPECT_EQ(fileContent(exported(u"002 Two.txt"_s)), "old");
     writeManuscript({{u"One"_s, "1"}, {u"Two"_s, "2"}});
     EXPECT_EQ(exportByFailingPlugin().exitCode, 0);
     EXPECT_EQ(fileContent(exported(u"002 Two.txt"_s)), "2");
 }
+
+TEST_F(Fault, PluginThatEndsTheProgramInAnyOperationIsNamedAndTheFilesAreListed)
+{
+    addTestPlugin(u"failing"_s);
+    for (const Operation &operation : operationsBeforeWriting + operationsOfWriting) {
+        for (auto way = waysToEnd.begin(); way != waysToEnd.end(); ++way) {
+            SCOPED_TRACE((operation.name + u" by "_s + way.key()).toStdString());
+            const HostResult result = exportByFailingPlugin(operation.name, way.key());
+            EXPECT_EQ(result.exitCode, 3);
+            EXPECT_TRUE(result.errors.contains(operation.description.arg(way.value())))
+                << testing::PrintToString(result.errors);
+            EXPECT_EQ(result.output, listOfFiles());
+            EXPECT_EQ(result.output.isEmpty(), operationsBeforeWriting.contains(operation));
+            for (const QString &name : filesIn(destination())) {
+                EXPECT_TRUE(QFile::remove(exported(name)));
+            }
+        }
+    }
+}
+
+TEST_F(Fault, PluginWhoseLibraryEndsTheProgramLastIsNamed)
+{
+    addTestPlugin(u"failing"_s);
+    for (const QString &way : {u"_exit 7"_s, u"terminate"_s, u"crash"_s}) {
+        const HostResult result = exportByFailingPlugin(u"static destructor"_s, way);
+        EXPECT_EQ(result.exitCode, 3);
+        EXPECT_TRUE(result.errors.contains(
+            u"one of the plug-ins failing %1 on the end of the program; "_s.arg(waysToEnd.value(way))))
+            << testing::PrintToString(result.errors);
+        EXPECT_EQ(result.output, listOfFiles());
+    }
+}
+
+#ifdef HOST_WITH_WINDOW
+TEST_F(Fault, PluginThatEndsTheProgramInItsWindowIsNamed)
+{
+    addTestPlugin(u"failing"_s);
+    writeManuscript({{u"Two"_s, "2"}});
+    for (auto way = waysToEnd.begin(); way != waysToEnd.end(); ++way) {
+        SCOPED_TRACE(way.key().toStdString());
+        const HostResult result = runFailing({u"open"_s, manuscript(), u"--plugin-folder"_s, plugins()},
+                                             u"exportedData"_s, way.key()); // which the preview asks for
+        EXPECT_TRUE(failedWith(3, {u"the plug-in failing %1 on the document 'Two'; "_s.arg(way.value())}, result));
+    }
+}
+#endif
 
 TEST_F(Fault, KilledAtAnyMomentLeavesWholeFilesOnly)
 {

@@ -3,7 +3,9 @@
 
 #include <QtCore/QProcess>
 
+#include <chrono>
 #include <csignal>
+#include <thread>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -133,6 +135,32 @@ TEST_F(Terminal, RequestToTerminateStopsAfterTheCurrentDocument)
     EXPECT_LT(wholeFiles().size(), 100);
     EXPECT_TRUE(result.errors.contains("orvane-host: the export was interrupted"_L1));
     EXPECT_FALSE(result.errors.contains(u'\r')) << "progress without a terminal";
+}
+
+TEST_F(Terminal, KilledExportWritesNothingMore)
+{
+    QProcess process;
+    process.start(hostProgram, slowExport(100, 100));
+    EXPECT_TRUE(waitForExportedFiles(destination(), 2));
+    process.kill();
+    EXPECT_TRUE(process.waitForFinished());
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    const QStringList names = wholeFiles();
+    EXPECT_LT(names.size(), 100);
+    std::this_thread::sleep_for(std::chrono::milliseconds(500));
+    EXPECT_EQ(wholeFiles(), names);
+}
+
+TEST_F(Terminal, ReaderOfTheListThatGoesAwayDoesNotStopTheExport)
+{
+    QProcess process;
+    process.start(u"sh"_s, QStringList{u"-c"_s, u"{ \"$@\"; echo \"code $?\" >&2; } | true"_s, u"sh"_s, hostProgram} +
+                               slowExport(5, 50));
+    const HostResult result = finished(process);
+    EXPECT_EQ(wholeFiles().size(), 5);
+    EXPECT_TRUE(
+        result.errors.contains("standard output takes no more text: Broken pipe; free it and run again\ncode 4"_L1))
+        << testing::PrintToString(result.errors);
 }
 
 TEST_F(Terminal, SecondInterruptionStopsAtOnce)

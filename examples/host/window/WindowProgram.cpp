@@ -6,6 +6,7 @@
 #include "Messages.h"
 #include "PluginFolder.h"
 #include "PluginSettings.h"
+#include "Supervisor.h"
 #include "Terminal.h"
 #include "WindowDefaults.h"
 
@@ -13,7 +14,6 @@
 #include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
 
-#include <cstdlib>
 #include <memory>
 #include <optional>
 
@@ -34,7 +34,7 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext & /*context*/, c
     if (type == QtFatalMsg) {
         printError(
             u"no window can be shown: %1; start the program on a desktop, or use the command export"_s.arg(reason));
-        std::_Exit(static_cast<int>(ExitCode::Display));
+        endWork(static_cast<int>(ExitCode::Display));
     }
 }
 
