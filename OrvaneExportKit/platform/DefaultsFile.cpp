@@ -228,7 +228,7 @@ DefaultsFile::Reading DefaultsFile::tryRead() const
     if (file.error() != QFile::NoError) {
         throw failure(file.errorString());
     }
-    const PropertyList::ReadResult list = PropertyList::read(data);
+    const PropertyList::ReadResult list = PropertyList::read(data, PropertyList::XmlUids::AsDictionaries);
     if (!list.value) {
         return {std::nullopt, list.error};
     }

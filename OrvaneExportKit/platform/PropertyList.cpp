@@ -9,11 +9,12 @@
 
 namespace platform {
 
-PropertyList::ReadResult PropertyList::read(QByteArrayView data)
+PropertyList::ReadResult PropertyList::read(QByteArrayView data, XmlUids xmlUids)
 {
     const Format format = data.startsWith("bplist") ? Format::Binary : Format::Xml;
     try {
-        return {format == Format::Binary ? readBinaryPropertyList(data) : readXmlPropertyList(data), format, {}};
+        return {
+            format == Format::Binary ? readBinaryPropertyList(data) : readXmlPropertyList(data, xmlUids), format, {}};
     } catch (const PropertyListError &error) {
         return {std::nullopt, format, error.description};
     }

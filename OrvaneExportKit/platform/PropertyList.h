@@ -37,7 +37,7 @@ namespace platform {
 /// the binary format and lose everything below a second in XML. Dictionaries are written in the order of their keys,
 /// so equal values give equal bytes. Control characters stand in XML as they are, except for U+000D, which is written
 /// as a reference so that no reader turns it into a line feed. In XML a dictionary whose only key is `CF$UID`, with an
-/// integer, is the written form of a UID and is read as one.
+/// integer, is the written form of a UID and is read as one, unless the reader asks for dictionaries (`XmlUids`).
 ///
 /// Errors are values, one English sentence that begins with the place: line and column (in characters) of an XML list,
 /// the byte of a binary one, and, on writing, the keys and indices that lead to the value.
@@ -53,6 +53,12 @@ struct ORVANE_CORE_EXPORT PropertyList {
         quint32 value = 0; ///< the index in the table
 
         friend bool operator==(Uid, Uid) = default;
+    };
+
+    /// What an XML dictionary whose only key is `CF$UID`, with an integer, is read as.
+    enum class XmlUids {
+        AsUids,         ///< as a `Uid`, whose number has to be one: what keyed archives mean
+        AsDictionaries, ///< as the dictionary that it is everywhere else: settings, whatever their keys
     };
 
     /// How many arrays and dictionaries may stand inside each other, on reading and on writing.
@@ -77,7 +83,7 @@ struct ORVANE_CORE_EXPORT PropertyList {
     /// Refused, beside what is malformed: deeper nesting than `maximumNesting`, XML with a document type of its own
     /// (so that no entity can expand), binary objects that overlap or hold themselves, and dates more than 292 million
     /// years away.
-    static ReadResult read(QByteArrayView data);
+    static ReadResult read(QByteArrayView data, XmlUids xmlUids = XmlUids::AsUids);
 
     /// Writes a value in the given format.
     ///

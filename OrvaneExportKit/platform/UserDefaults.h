@@ -21,7 +21,8 @@ namespace platform {
 ///
 /// A domain is an XML property list `<domain>.plist` in the folder, readable by its owner alone, and `lastError` names
 /// it. It is replaced as a whole: whatever happens to a program that saves, the file holds the old or the new settings.
-/// When a function that changes a domain returns true, the change is on disk.
+/// When a function that changes a domain returns true, the change is on disk. A dictionary whose only key is `CF$UID`
+/// is one like any other here (`PropertyList::XmlUids`).
 ///
 /// Programs may use a domain at the same time. Every call reads the file anew, and two that save take turns; one whose
 /// turn does not come within a few seconds reports the program that it waited for.

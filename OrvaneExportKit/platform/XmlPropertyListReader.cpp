@@ -1,6 +1,5 @@
 #include <OrvaneExportKit/platform/XmlPropertyListReader.h>
 
-#include <OrvaneExportKit/platform/PropertyList.h>
 #include <OrvaneExportKit/platform/PropertyListError.h>
 #include <OrvaneExportKit/platform/PropertyListValues.h>
 #include <OrvaneExportKit/platform/XmlScalars.h>
@@ -22,7 +21,7 @@ using namespace Qt::Literals::StringLiterals;
 class Reader
 {
 public:
-    explicit Reader(std::string_view text) : m_scanner(text) {}
+    Reader(std::string_view text, PropertyList::XmlUids xmlUids) : m_scanner(text), m_xmlUids(xmlUids) {}
 
     QVariant read();
 
@@ -39,6 +38,7 @@ private:
     void requireNesting(const XmlTag &tag, int containers) const;
 
     XmlScanner m_scanner;
+    PropertyList::XmlUids m_xmlUids;
 };
 
 QVariant Reader::read()
@@ -118,7 +118,7 @@ QVariant Reader::readDictionary(const XmlTag &tag, int containers)
         }
         entries.insert(entries.cend(), name, readValue(*value, containers + 1)); // keys mostly come in order
     }
-    return uidOrDictionary(tag, entries);
+    return m_xmlUids == PropertyList::XmlUids::AsUids ? uidOrDictionary(tag, entries) : entries;
 }
 
 /// A dictionary that is the written form of a UID is that UID.
@@ -175,10 +175,10 @@ void Reader::requireNesting(const XmlTag &tag, int containers) const
 
 } // namespace
 
-QVariant readXmlPropertyList(QByteArrayView data)
+QVariant readXmlPropertyList(QByteArrayView data, PropertyList::XmlUids xmlUids)
 {
     const QByteArray text = xmlText(data);
-    return Reader({text.data(), static_cast<std::size_t>(text.size())}).read();
+    return Reader({text.data(), static_cast<std::size_t>(text.size())}, xmlUids).read();
 }
 
 } // namespace platform

@@ -31,19 +31,22 @@ void registerTransformers(float measurementUnitFactor)
     setValueTransformer(std::make_shared<KZLocaleTransformer>(), QStringLiteral("KZLocaleTransformer"));
 }
 
-/// The dictionary that a property list holds; empty, after an alert, when it holds none.
-QVariantMap dictionaryFromData(const QByteArray &data)
+/// What was read from a property list.
+struct Reading {
+    QVariantMap dictionary;
+    QString error; ///< why the dictionary is empty; else empty itself
+};
+
+Reading dictionaryFromData(const QByteArray &data)
 {
-    const PropertyList::ReadResult read = PropertyList::read(data);
+    const PropertyList::ReadResult read = PropertyList::read(data, PropertyList::XmlUids::AsDictionaries);
     if (!read.value) {
-        platform::alertError(read.error);
-        return {};
+        return {{}, read.error};
     }
     if (read.value->metaType() != QMetaType::fromType<QVariantMap>()) {
-        platform::alertError(QStringLiteral("The root of the property list is not a dictionary."));
-        return {};
+        return {{}, QStringLiteral("The root of the property list is not a dictionary.")};
     }
-    return read.value->toMap();
+    return {read.value->toMap(), {}};
 }
 
 /// The XML property list of a dictionary, or nothing after an alert.
@@ -110,7 +113,12 @@ QByteArray KZExportSettings::defaultData() const
 
 void KZExportSettings::setDefaultData(const QByteArray &data)
 {
-    m_settingsDict = dictionaryFromData(data);
+    // The alert comes last: while it is open, the program goes on with the new settings, and may even destroy them.
+    const Reading reading = dictionaryFromData(data);
+    m_settingsDict = reading.dictionary;
+    if (!reading.error.isEmpty()) {
+        platform::alertError(reading.error);
+    }
 }
 
 QVariantMap KZExportSettings::defaultDictionary() const
@@ -121,7 +129,7 @@ QVariantMap KZExportSettings::defaultDictionary() const
 void KZExportSettings::setDefaultDictionary(const QVariantMap &dictionary)
 {
     if (const auto data = dataFromDictionary(dictionary)) {
-        m_settingsDict = dictionaryFromData(*data);
+        setDefaultData(*data);
     }
 }
 

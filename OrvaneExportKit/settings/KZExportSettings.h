@@ -23,7 +23,9 @@
 ///     settings.writeSettingsToDefaults();
 ///
 /// Keys that a version of the plug-in does not know stay through every load and save. Where a conversion to or from a
-/// property list fails, the error goes to `platform::alertError`, and what survives is said at each operation.
+/// property list fails, the error goes to `platform::alertError`, when what survives (each operation says what) is in
+/// place already. A dictionary whose only key is `CF$UID` stays one: settings hold no references of keyed archives, and
+/// a `PropertyList::Uid` that is put into them comes back as the dictionary that XML writes for it.
 /// For use on the application's main thread.
 class ORVANE_CORE_EXPORT KZExportSettings : public platform::KeyValueCoding
 {

@@ -193,6 +193,17 @@ const Case uids[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Uids, PropertyListXmlValue, testing::ValuesIn(uids), caseName);
 
+TEST(PropertyListXmlRead, LeavesDictionariesThatWouldBeUidsAsTheyAreWhenAsked)
+{
+    const auto read = [](const QByteArray &number) {
+        const QByteArray xml = "<array><dict><key>CF$UID</key><integer>" + number + "</integer></dict></array>";
+        return dump(PropertyList::read(xml, PropertyList::XmlUids::AsDictionaries));
+    };
+    EXPECT_EQ(read("1"), "[{004300460024005500490044=i1,},]");
+    EXPECT_EQ(read("-1"), "[{004300460024005500490044=i-1,},]");
+    EXPECT_EQ(read("4294967296"), "[{004300460024005500490044=i4294967296,},]");
+}
+
 TEST(PropertyListXmlDocument, MayLackPlistElementAndDeclaration)
 {
     EXPECT_EQ(readXml("<true/>"), "true");

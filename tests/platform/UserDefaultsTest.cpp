@@ -70,6 +70,13 @@ TEST_F(PersistentDomain, ComesBackWithEveryKindOfValue)
     EXPECT_EQ(defaults.persistentDomainForName(plainText), domain);
 }
 
+TEST_F(PersistentDomain, KeepsADictionaryThatAKeyedArchiveWouldTakeForAReference)
+{
+    const QVariantMap domain{{u"a"_s, QVariantList{QVariantMap{{u"CF$UID"_s, 1LL}}}}, {u"CF$UID"_s, -1LL}};
+    ASSERT_TRUE(defaults.setPersistentDomain(domain, plainText)) << defaults.lastError().toStdString();
+    EXPECT_EQ(defaults.persistentDomainForName(plainText), domain) << defaults.lastError().toStdString();
+}
+
 TEST_F(PersistentDomain, IsAnXmlPropertyListThatItsOwnerAloneMayRead)
 {
     support::writeFile(path(plainText), "<plist><dict/></plist>");

@@ -13,6 +13,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
@@ -63,6 +65,58 @@ TEST_F(ExportSettings, AreEmptyAfterDataThatIsNoPropertyListAndAlertOnce)
     EXPECT_TRUE(settings.defaultDictionary().isEmpty());
     ASSERT_EQ(alert.errors.size(), 1);
     EXPECT_EQ(platform::lastError(), alert.errors.first());
+}
+
+TEST_F(ExportSettings, AreReplacedBeforeTheAlertOpensAndKeepWhatIsWrittenMeanwhile)
+{
+    using platform::PropertyList;
+    const QByteArray list = *PropertyList::write(QVariantList{1}, PropertyList::Format::Xml).data;
+    for (const QByteArray &data : {QByteArray("<plist><dict>"), list}) {
+        settings.setObject(u"entry"_s, u"old"_s);
+        QVariantMap entriesWhileOpen;
+        alert.whileOpen = [&] {
+            entriesWhileOpen = settings.defaultDictionary();
+            settings.setObject(u"entry"_s, u"new"_s);
+        };
+        settings.setDefaultData(data);
+        EXPECT_EQ(entriesWhileOpen, QVariantMap()) << data.toStdString();
+        EXPECT_EQ(settings.defaultDictionary(), (QVariantMap{{u"new"_s, u"entry"_s}})) << data.toStdString();
+    }
+    EXPECT_EQ(alert.errors.size(), 2);
+}
+
+TEST_F(ExportSettings, KeepWhatIsWrittenWhileTheAlertAboutARefusedDictionaryIsOpen)
+{
+    settings.setInteger(7, u"kept"_s);
+    alert.whileOpen = [this] {
+        settings.setInteger(8, u"written"_s);
+    };
+    settings.setDefaultDictionary({{u"size"_s, QSize(1, 2)}});
+    EXPECT_EQ(settings.defaultDictionary(), (QVariantMap{{u"kept"_s, 7}, {u"written"_s, 8}}));
+}
+
+TEST_F(ExportSettings, KeepADictionaryThatAKeyedArchiveWouldTakeForAReference)
+{
+    const QString key = u"CF$UID"_s;
+    const QVariantMap given{{u"one"_s, QVariantMap{{key, 1LL}}},
+                            {u"negative"_s, QVariantMap{{key, -1LL}}},
+                            {u"large"_s, QVariantMap{{key, std::numeric_limits<quint64>::max()}}},
+                            {u"list"_s, QVariantList{QVariantMap{{u"inner"_s, QVariantMap{{key, 2LL}}}}}}};
+    settings.setDefaultDictionary(given);
+    EXPECT_EQ(settings.defaultDictionary(), given);
+
+    settings.writeSettingsToDefaults();
+    KZExportSettings loaded(domainName);
+    EXPECT_TRUE(loaded.readSettingsFromDefaults());
+    EXPECT_EQ(loaded.defaultDictionary(), given);
+
+    KZExportSettings imported(domainName);
+    imported.setDefaultData(settings.defaultData());
+    EXPECT_EQ(imported.defaultDictionary(), given);
+
+    settings.setDefaultDictionary({{key, 3LL}});
+    EXPECT_EQ(settings.defaultDictionary(), (QVariantMap{{key, 3LL}}));
+    EXPECT_TRUE(alert.errors.isEmpty()) << alert.errors.join(u'\n').toStdString();
 }
 
 TEST_F(ExportSettings, StayAndAlertWhenADictionaryHoldsNoPropertyListValue)

@@ -209,6 +209,8 @@ TEST_F(DefaultsProgram, WriteTakesEveryType)
     EXPECT_EQ(write(u"data"_s, u"AP8="_s), QVariant(QByteArray("\0\xff", 2)));
     EXPECT_EQ(write(u"plist"_s, u"<plist><dict><key>a</key><true/></dict></plist>"_s),
               QVariant(QVariantMap{{u"a"_s, true}}));
+    EXPECT_EQ(write(u"plist"_s, u"<dict><key>CF$UID</key><integer>-1</integer></dict>"_s),
+              QVariant(QVariantMap{{u"CF$UID"_s, -1}}));
 }
 
 TEST_F(DefaultsProgram, WriteRefusesAValueThatIsNotOfItsType)
@@ -257,7 +259,8 @@ TEST_F(DefaultsProgram, DeleteRemovesAKeyOrADomain)
 
 TEST_F(DefaultsProgram, ExportAndImportCarryADomainOver)
 {
-    const QVariantMap domain{{u"a"_s, QVariantList{1, 2.5, true}}, {u"b"_s, u"ä"_s}};
+    const QVariantMap domain{
+        {u"a"_s, QVariantList{1, 2.5, true}}, {u"b"_s, u"ä"_s}, {u"c"_s, QVariantMap{{u"CF$UID"_s, -1}}}};
     set(domain);
     const QString file = parentFolder() + u"/backup.plist"_s;
     EXPECT_TRUE(printed(run({u"export"_s, domainName, file}), QString()));

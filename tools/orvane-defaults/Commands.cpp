@@ -124,7 +124,7 @@ void listDomains(const UserDefaults &userDefaults)
 
 QVariantMap importedDomain(const QString &file)
 {
-    const PropertyList::ReadResult list = PropertyList::read(readFile(file));
+    const PropertyList::ReadResult list = PropertyList::read(readFile(file), PropertyList::XmlUids::AsDictionaries);
     if (!list.value) {
         throw ProgramError(ExitCode::Failure,
                            u"The file '%1' is not a property list: %2; correct it there."_s.arg(file, list.error));

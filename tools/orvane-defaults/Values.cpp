@@ -86,7 +86,7 @@ QByteArray dataFromText(const QString &text)
 
 QVariant propertyListFromText(const QString &text)
 {
-    const PropertyList::ReadResult list = PropertyList::read(text.toUtf8());
+    const PropertyList::ReadResult list = PropertyList::read(text.toUtf8(), PropertyList::XmlUids::AsDictionaries);
     if (!list.value) {
         throw usageError(u"This is not a property list: %1"_s.arg(list.error));
     }
