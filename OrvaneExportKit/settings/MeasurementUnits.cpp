@@ -82,8 +82,10 @@ QString timestampStringWithDate(const QDateTime &date)
 {
     const QVariantMap defaults = platform::UserDefaults::standardUserDefaults().dictionaryRepresentation();
     const QVariant format = defaults.value(u"NSShortTimeDateFormatString"_s);
-    const bool isText = format.typeId() == QMetaType::QString;
-    return platform::calendarDescription(date, isText ? format.toString() : QString(), defaults);
+    if (format.typeId() != QMetaType::QString || format.toString().isEmpty()) {
+        return QLocale().toString(date.toLocalTime(), QLocale::ShortFormat);
+    }
+    return platform::calendarDescription(date, format.toString(), defaults);
 }
 
 QString localizedStringForLevel(qint32 level, const QString &levelString)

@@ -30,10 +30,12 @@ ORVANE_CORE_EXPORT QString measurementUnitString();
 ///     pageSizeStringWithSize({595, 842});   // "20.99 cm x 29.70 cm"
 ORVANE_CORE_EXPORT QString pageSizeStringWithSize(QSizeF size);
 
-/// The date in local time, in the calendar format that the user's default `NSShortTimeDateFormatString` holds, with
-/// the names that the user's defaults give; see `platform::calendarDescription`.
+/// The date in local time, in the user's short format: the calendar format that the user's default
+/// `NSShortTimeDateFormatString` holds, with the names that the user's defaults give (`platform::calendarDescription`).
+/// Where the defaults hold no such text, it is the short format for date and time of `QLocale()`, which is the user's
+/// unless the program has chosen another. The empty string for an invalid date.
 ///
-///     timestampStringWithDate(QDateTime::currentDateTime());   // "2009-03-07 14:05:00 +0100" when no format is set
+///     timestampStringWithDate(QDateTime::currentDateTime());   // in Germany "07.03.09 14:05" unless a format is set
 ORVANE_CORE_EXPORT QString timestampStringWithDate(const QDateTime &date);
 
 /// A label for an outline level, in the user's language.

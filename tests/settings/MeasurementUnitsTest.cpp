@@ -148,6 +148,13 @@ TEST_F(PageSizeString, FollowsTheUsersDigits)
     EXPECT_EQ(pageSizeStringWithSize({595, 842}), u"𑄸𑄶.𑄿𑄿 cm x 𑄸𑄿.𑄽𑄶 cm"_s);
 }
 
+TEST_F(PageSizeString, FollowsTheUsersMinusSign)
+{
+    setUnit(u"Inches"_s);
+    QLocale::setDefault(QLocale(QLocale::Swedish, QLocale::Sweden));
+    EXPECT_EQ(pageSizeStringWithSize(inches(-1, 2)), u"\u22121,00 in x 2,00 in"_s);
+}
+
 TEST_F(PageSizeString, HasNoGroupSeparators)
 {
     setUnit(u"Inches"_s);
@@ -177,18 +184,37 @@ TEST_F(TimestampString, UsesTheUsersFormat)
     EXPECT_EQ(timestampStringWithDate(saturday), u"07.03.09 14:05"_s);
 }
 
-TEST_F(TimestampString, UsesTheDefaultFormatWhenTheUserHasNone)
+TEST_F(TimestampString, LooksForTheFormatInTheApplicationsDomainThenTheGlobalThenTheRegisteredDefaults)
 {
-    EXPECT_TRUE(timestampStringWithDate(saturday).startsWith(u"2009-03-07 14:05:09 "))
-        << timestampStringWithDate(saturday).toStdString();
+    const QString key = u"NSShortTimeDateFormatString"_s;
+    const QString applicationDomain = u"org.example.application"_s;
+    defaults().registerDefaults({{key, u"%Y"_s}});
+    EXPECT_EQ(timestampStringWithDate(saturday), u"2009"_s);
+    setFormat(u"%m"_s);
+    EXPECT_EQ(timestampStringWithDate(saturday), u"03"_s);
+    defaults().setApplicationDomain(applicationDomain);
+    ASSERT_TRUE(defaults().setPersistentDomain({{key, u"%d"_s}}, applicationDomain));
+    EXPECT_EQ(timestampStringWithDate(saturday), u"07"_s);
+    defaults().setApplicationDomain({});
+    defaults().registerDefaults({{key, QVariant()}});
 }
 
-TEST_F(TimestampString, UsesTheDefaultFormatWhenTheUsersIsNoString)
+TEST_F(TimestampString, IsThatOfTheUsersLocaleWhenTheUserHasSetNoFormat)
 {
-    for (const QVariant &format : {QVariant(12), QVariant(QByteArray("%d")), QVariant(QVariantList{u"%d"_s})}) {
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    EXPECT_EQ(timestampStringWithDate(saturday), u"07.03.09 14:05"_s);
+    EXPECT_EQ(timestampStringWithDate(saturday.toOffsetFromUtc(5 * 3600)), u"07.03.09 14:05"_s);
+    QLocale::setDefault(QLocale(QLocale::Swedish, QLocale::Sweden));
+    EXPECT_EQ(timestampStringWithDate(saturday), u"2009-03-07 14:05"_s);
+}
+
+TEST_F(TimestampString, IsThatOfTheUsersLocaleWhenTheFormatIsNoString)
+{
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    for (const QVariant &format :
+         {QVariant(12), QVariant(QByteArray("%d")), QVariant(QVariantList{u"%d"_s}), QVariant(u""_s)}) {
         setFormat(format);
-        EXPECT_TRUE(timestampStringWithDate(saturday).startsWith(u"2009-03-07 14:05:09 "))
-            << testing::PrintToString(format);
+        EXPECT_EQ(timestampStringWithDate(saturday), u"07.03.09 14:05"_s) << testing::PrintToString(format);
     }
 }
 
@@ -251,6 +277,17 @@ TEST_F(LevelString, TakesTheLabelFromTheTextsOfTheKitsBundle)
     LevelTranslator translator;
     ASSERT_TRUE(QCoreApplication::installTranslator(&translator));
     EXPECT_EQ(localizedStringForLevel(2, u"##"_s), u"Ebene in org.orvane.ExportKit 2 (##)"_s);
+}
+
+TEST_F(LevelString, TakesTheLabelFromTheBundleThatAHostHasNamed)
+{
+    const support::Application application;
+    LevelTranslator translator;
+    ASSERT_TRUE(QCoreApplication::installTranslator(&translator));
+    const platform::BundleRegistration hostBundle(u"org.example.host"_s, u":/org.example.host"_s);
+    const QString identifier = std::exchange(bndlIdentifier, u"org.example.host"_s);
+    EXPECT_EQ(localizedStringForLevel(2, u"##"_s), u"Ebene in org.example.host 2 (##)"_s);
+    bndlIdentifier = identifier;
 }
 
 TEST_F(LevelString, IsTheKeyWhenTheBundleIsUnknown)
