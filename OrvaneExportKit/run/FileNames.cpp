@@ -1,11 +1,13 @@
+#include <OrvaneExportKit/platform/Description.h>
 #include <OrvaneExportKit/platform/OpenPanel.h>
 #include <OrvaneExportKit/platform/Paths.h>
+#include <OrvaneExportKit/run/DocumentEquality.h>
 #include <OrvaneExportKit/run/FileNames.h>
 
-#include <QtCore/QDateTime>
 #include <QtCore/QFileInfo>
-#include <QtCore/QJsonDocument>
 
+#include <algorithm>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -35,11 +37,53 @@ struct DocumentEqual {
     bool operator()(const ExportDocument *a, const ExportDocument *b) const { return a->isEqual(*b); }
 };
 
+/// The documents that equal no earlier one, with their places. What is equal is decided by the equality of the later
+/// document; hashes only find candidates, and only where its class is sure to have one that fits.
+class FirstDocuments
+{
+public:
+    explicit FirstDocuments(qsizetype count) { m_hashed.reserve(static_cast<std::size_t>(count)); }
+
+    /// The place of the first document that equals this one, which stands at `place` behind all before.
+    qsizetype add(const ExportDocument &document, qsizetype place)
+    {
+        const bool isHashed = platform::comparesByIdentity(document) || platform::hasOwnHash(document);
+        qsizetype firstPlace = placeOfFirst(isHashed ? m_unhashed : m_all, document).value_or(place);
+        if (isHashed) {
+            firstPlace = std::min(firstPlace, m_hashed.try_emplace(&document, firstPlace).first->second);
+        }
+        if (firstPlace == place) {
+            m_all.push_back({&document, place});
+            if (!isHashed) {
+                m_unhashed.push_back(m_all.back());
+            }
+        }
+        return firstPlace;
+    }
+
+private:
+    struct Place {
+        const ExportDocument *document;
+        qsizetype place;
+    };
+
+    static std::optional<qsizetype> placeOfFirst(const std::vector<Place> &places, const ExportDocument &document)
+    {
+        const auto found = std::find_if(places.begin(), places.end(), [&document](const Place &earlier) {
+            return document.isEqual(*earlier.document);
+        });
+        return found == places.end() ? std::nullopt : std::optional(found->place);
+    }
+
+    std::unordered_map<const ExportDocument *, qsizetype, DocumentHash, DocumentEqual> m_hashed;
+    std::vector<Place> m_unhashed;
+    std::vector<Place> m_all; ///< both, in their order
+};
+
 /// For every document the place, from 1, of the first one that equals it.
 std::vector<qsizetype> runningNumbers(const QList<const ExportDocument *> &documents)
 {
-    std::unordered_map<const ExportDocument *, qsizetype, DocumentHash, DocumentEqual> firstPlaces;
-    firstPlaces.reserve(static_cast<std::size_t>(documents.size()));
+    FirstDocuments firstDocuments(documents.size());
     std::vector<qsizetype> numbers;
     numbers.reserve(static_cast<std::size_t>(documents.size()));
     for (qsizetype index = 0; index < documents.size(); ++index) {
@@ -47,7 +91,7 @@ std::vector<qsizetype> runningNumbers(const QList<const ExportDocument *> &docum
             throw platform::InvalidArgumentException("filenamesFromComponents: the document at index " +
                                                      std::to_string(index) + " is null");
         }
-        numbers.push_back(firstPlaces.try_emplace(documents[index], index + 1).first->second);
+        numbers.push_back(firstDocuments.add(*documents[index], index + 1));
     }
     return numbers;
 }
@@ -69,26 +113,6 @@ QString fileName(const QString &pattern, const ExportDocument &document, qsizety
         name.replace(u' ', u'_');
     }
     return name;
-}
-
-QString componentText(const QVariant &component)
-{
-    switch (component.typeId()) {
-    case QMetaType::Bool:
-        return component.toBool() ? QStringLiteral("1") : QStringLiteral("0");
-    case QMetaType::QDateTime:
-        return component.toDateTime().toString(Qt::ISODateWithMs);
-    case QMetaType::QVariantList:
-    case QMetaType::QVariantMap:
-    case QMetaType::QStringList:
-        return QString::fromUtf8(QJsonDocument::fromVariant(component).toJson(QJsonDocument::Compact));
-    default:
-        break;
-    }
-    if (!component.isValid() || component.canConvert<QString>()) {
-        return component.toString();
-    }
-    return u'<' + QLatin1String(component.typeName()) + u'>';
 }
 
 } // namespace
@@ -121,7 +145,7 @@ QStringList componentTexts(const QVariantList &components)
     QStringList texts;
     texts.reserve(components.size());
     for (const QVariant &component : components) {
-        texts.append(componentText(component));
+        texts.append(description(component));
     }
     return texts;
 }

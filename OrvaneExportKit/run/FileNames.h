@@ -30,8 +30,9 @@ namespace KZStringExportAdditions {
 /// open panel's required file type or, when that is empty, `pathExtension`. For a file path, they go into its folder
 /// and take its extension, even when it has none; `pathExtension` is not looked at.
 ///
-/// Equal names give equal paths; only `<1>` tells documents apart for certain. Linear in the number of documents.
-/// Throws `platform::InvalidArgumentException` for a null document.
+/// Equal names give equal paths; only `<1>` tells documents apart for certain. Linear in the number of documents,
+/// unless their class overrides `ExportDocument::isEqual` without `hash`. Throws `platform::InvalidArgumentException`
+/// for a null document.
 ///
 ///     filenamesFromComponents(u"/home/u/Novel.html"_s, {u"<5>"_s, u" "_s, u"<1>"_s}, documents, false, u"txt"_s);
 ///     // "/home/u/Novel 001.html", "/home/u/Novel 002.html"

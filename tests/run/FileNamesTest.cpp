@@ -128,6 +128,13 @@ TEST_F(FilenamesInAFolder, AskTheOpenPanelOnceForAllDocuments)
     EXPECT_EQ(panel.timesAsked(), 1);
 }
 
+TEST_F(FilenamesInAFolder, AskTheOpenPanelAlsoForNoDocuments)
+{
+    const RecordingOpenPanel panel(u"rtf"_s);
+    EXPECT_EQ(filenamesFromComponents(folder(), {u"<2>"_s}, {}, false, {}), QStringList());
+    EXPECT_EQ(panel.timesAsked(), 1);
+}
+
 TEST_F(FilenamesInAFolder, HaveAnEmptyBaseName)
 {
     const TextsDocument document(u"A"_s);
@@ -312,6 +319,136 @@ TEST(FilenamesFromComponents, NumberEqualDocumentsByTheFirstOfThem)
     const TextsDocument equalToFirst(u"A"_s);
     EXPECT_EQ(filenamesFromComponents(u"/x/missing"_s, {u"<1><2>"_s}, {&first, &second, &equalToFirst}, false, {}),
               (QStringList{u"/x/001A"_s, u"/x/002B"_s, u"/x/001A"_s}));
+}
+
+/// The running numbers of documents as a text.
+QString numbersOf(const QList<const ExportDocument *> &documents)
+{
+    const QStringList paths = filenamesFromComponents(u"missing"_s, {u"<1>"_s}, documents, false, {});
+    return paths.join(u' ');
+}
+
+/// A document that equals those of the same name, and leaves it to a subclass how that is said.
+class NamedDocument : public ExportDocument
+{
+public:
+    explicit NamedDocument(QString name) : m_name(std::move(name)) {}
+
+    QString name() const override { return m_name; }
+    QString status() const override { return {}; }
+    QString label() const override { return {}; }
+    bool isEqual(const ExportDocument &other) const override { return m_name == other.name(); }
+
+private:
+    QString m_name;
+};
+
+TEST(FilenamesFromComponents, NumberEqualDocumentsAlikeWhoseClassHasNoHash)
+{
+    const NamedDocument documents[]{NamedDocument(u"A"_s), NamedDocument(u"B"_s), NamedDocument(u"A"_s),
+                                    NamedDocument(u"B"_s), NamedDocument(u"C"_s)};
+    EXPECT_EQ(numbersOf({&documents[0], &documents[1], &documents[2], &documents[3], &documents[4], &documents[0]}),
+              u"001 002 001 002 005 001"_s);
+}
+
+TEST(FilenamesFromComponents, NumberEqualDocumentsAlikeThatFirstAskForIdentity)
+{
+    class IdentityFirst final : public NamedDocument
+    {
+    public:
+        using NamedDocument::NamedDocument;
+        bool isEqual(const ExportDocument &other) const override
+        {
+            return ExportDocument::isEqual(other) || NamedDocument::isEqual(other);
+        }
+    };
+    class IdentityLast final : public NamedDocument
+    {
+    public:
+        using NamedDocument::NamedDocument;
+        bool isEqual(const ExportDocument &other) const override
+        {
+            return NamedDocument::isEqual(other) || ExportDocument::isEqual(other);
+        }
+    };
+    const IdentityFirst first[]{IdentityFirst(u"A"_s), IdentityFirst(u"B"_s), IdentityFirst(u"A"_s)};
+    EXPECT_EQ(numbersOf({&first[0], &first[1], &first[2]}), u"001 002 001"_s);
+    const IdentityLast last[]{IdentityLast(u"A"_s), IdentityLast(u"B"_s), IdentityLast(u"A"_s)};
+    EXPECT_EQ(numbersOf({&last[0], &last[1], &last[2]}), u"001 002 001"_s);
+}
+
+TEST(FilenamesFromComponents, NumberDocumentsAlikeThatStandForTheSameOther)
+{
+    /// Equals what stands for the same document.
+    class Proxy final : public ExportDocument
+    {
+    public:
+        explicit Proxy(const ExportDocument &document) : m_document(document) {}
+
+        QString name() const override { return m_document.name(); }
+        QString status() const override { return {}; }
+        QString label() const override { return {}; }
+        bool isEqual(const ExportDocument &other) const override
+        {
+            const auto *const proxy = dynamic_cast<const Proxy *>(&other);
+            return proxy != nullptr && m_document.isEqual(proxy->m_document);
+        }
+
+    private:
+        const ExportDocument &m_document;
+    };
+    class PlainDocument final : public ExportDocument
+    {
+    public:
+        QString name() const override { return {}; }
+        QString status() const override { return {}; }
+        QString label() const override { return {}; }
+    };
+    const PlainDocument first;
+    const PlainDocument second;
+    const Proxy proxies[]{Proxy(first), Proxy(second), Proxy(first)};
+    EXPECT_EQ(numbersOf({&proxies[0], &proxies[1], &proxies[2]}), u"001 002 001"_s);
+}
+
+TEST(FilenamesFromComponents, NumberDocumentsOfClassesWithAndWithoutAHash)
+{
+    class SameTexts final : public NamedDocument
+    {
+    public:
+        using NamedDocument::NamedDocument;
+        std::size_t hash() const override { return qHash(name()); }
+    };
+    const NamedDocument unhashed[]{NamedDocument(u"A"_s), NamedDocument(u"B"_s)};
+    const SameTexts hashed[]{SameTexts(u"A"_s), SameTexts(u"B"_s), SameTexts(u"C"_s), SameTexts(u"C"_s)};
+    EXPECT_EQ(numbersOf({&unhashed[0], &hashed[0], &hashed[1], &unhashed[1], &hashed[2], &hashed[3], &hashed[1]}),
+              u"001 001 003 003 005 005 003"_s);
+}
+
+TEST(FilenamesFromComponents, CompareDocumentsThatAreDistinctByIdentityAFewTimesOnly)
+{
+    class CountingDocument final : public NamedDocument
+    {
+    public:
+        CountingDocument(const QString &name, int &comparisons) : NamedDocument(name), m_comparisons(comparisons) {}
+
+        bool isEqual(const ExportDocument &other) const override
+        {
+            ++m_comparisons;
+            return ExportDocument::isEqual(other);
+        }
+
+    private:
+        int &m_comparisons;
+    };
+    constexpr int count = 1000; // which would be half a million in pairs
+    int comparisons = 0;
+    std::deque<CountingDocument> stored;
+    QList<const ExportDocument *> documents;
+    for (int i = 0; i < count; ++i) {
+        documents.append(&stored.emplace_back(u"same"_s, comparisons));
+    }
+    EXPECT_TRUE(numbersOf(documents).endsWith(u" 999 1000"_s));
+    EXPECT_LT(comparisons, 5 * count);
 }
 
 TEST(FilenamesFromComponents, NumberDocumentsApartThatOnlyShareTheirHash)

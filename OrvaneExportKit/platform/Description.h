@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QVariant>
+
+namespace platform {
+
+/// A value of any kind as text, where a string is expected: a string as it is, a number in decimal, a boolean as 1 or
+/// 0, a date in ISO 8601, bytes as UTF-8, a list or dictionary as compact JSON, nothing as the empty string, and any
+/// other value by the name of its type in angle brackets.
+QString description(const QVariant &value);
+
+} // namespace platform
