@@ -20,9 +20,9 @@ class BundleTranslator;
 /// prefix of Qt's resource system.
 ///
 /// The kit's own bundle, "org.orvane.ExportKit" with the root ":/OrvaneExportKit", is always there. A plug-in registers
-/// its bundle with a `BundleRegistration`, and its classes name it:
+/// its bundle with a `BundleRegistration`, and its classes name it (those of settings by `ORVANE_SETTINGS_BUNDLE`):
 ///
-///     class HtmlSettings : public KZExportSettings
+///     class HtmlPanel : public QWidget
 ///     {
 ///         Q_OBJECT
 ///         Q_CLASSINFO("BundleIdentifier", "com.example.html")
@@ -46,7 +46,7 @@ public:
     /// class that does; the null bundle while none is registered under that name. A class that names none has the
     /// kit's own.
     ///
-    ///     Bundle::bundleForClass(HtmlSettings::staticMetaObject)
+    ///     Bundle::bundleForClass(HtmlPanel::staticMetaObject)
     static Bundle bundleForClass(const QMetaObject &metaObject);
 
     /// The kit's own bundle, whatever `bndlIdentifier` holds.

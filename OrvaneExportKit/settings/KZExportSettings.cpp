@@ -11,6 +11,9 @@
 #include <OrvaneExportKit/settings/MeasurementUnits.h>
 #include <OrvaneExportKit/text/QuotationTable.h>
 
+#include <QtCore/QMetaMethod>
+#include <QtCore/QSet>
+
 #include <array>
 #include <optional>
 
@@ -59,6 +62,34 @@ std::optional<QByteArray> dataFromDictionary(const QVariantMap &dictionary)
     return std::move(written.data);
 }
 
+/// The class itself or its nearest base class that names a bundle.
+const QMetaObject *classThatNamesBundle(const QMetaObject *metaObject)
+{
+    const int entry = metaObject->indexOfClassInfo("BundleIdentifier");
+    while (entry < metaObject->classInfoOffset()) {
+        metaObject = metaObject->superClass();
+    }
+    return metaObject;
+}
+
+/// Warns, once, of a class that names a bundle and whose `quotationStrings()` reads that of another. Constructors
+/// cannot call this: they do not know yet of what class the object will be.
+void warnOfMissingOperation(const QMetaObject *metaObject)
+{
+    const QMetaObject *const named = classThatNamesBundle(metaObject);
+    const int operation = metaObject->indexOfMethod("quotationStrings()");
+    static QSet<const QMetaObject *> warned;
+    if (named == &KZExportSettings::staticMetaObject || warned.contains(named) ||
+        (operation >= 0 && metaObject->method(operation).enclosingMetaObject() == named)) {
+        return;
+    }
+    warned.insert(named);
+    const char *const name = named->className();
+    qWarning("%s names a bundle, but %s::quotationStrings() does not read the table there: write "
+             "ORVANE_SETTINGS_BUNDLE(%s, ...) in the place of Q_CLASSINFO.",
+             name, name, name);
+}
+
 void requireValue(const char *operation, const QVariant &value, const QString &key)
 {
     if (value.isNull()) {
@@ -87,6 +118,11 @@ float KZExportSettings::measurementUnitFactor()
     return platform::measurementUnitFactor();
 }
 
+QStringList KZExportSettings::quotationStrings()
+{
+    return quotationStrings(staticMetaObject);
+}
+
 QStringList KZExportSettings::quotationStrings(const QMetaObject &receiver)
 {
     return platform::quotationSamples(platform::Bundle::bundleForClass(receiver));
@@ -94,6 +130,7 @@ QStringList KZExportSettings::quotationStrings(const QMetaObject &receiver)
 
 bool KZExportSettings::readSettingsFromDefaults()
 {
+    warnOfMissingOperation(metaObject());
     const auto domain = platform::UserDefaults::standardUserDefaults().persistentDomainForName(m_bundleIdentifier);
     if (domain) {
         setDefaultDictionary(*domain);
@@ -103,6 +140,7 @@ bool KZExportSettings::readSettingsFromDefaults()
 
 void KZExportSettings::writeSettingsToDefaults() const
 {
+    warnOfMissingOperation(metaObject());
     platform::UserDefaults::standardUserDefaults().setPersistentDomain(m_settingsDict, m_bundleIdentifier);
 }
 

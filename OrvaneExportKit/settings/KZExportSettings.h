@@ -11,6 +11,34 @@
 #include <QtCore/QVariant>
 
 #include <memory>
+#include <type_traits>
+
+/// Names the bundle of a subclass of `KZExportSettings`, as a `Q_CLASSINFO("BundleIdentifier", ...)` does elsewhere,
+/// and gives the subclass its own `quotationStrings()`, which reads the table of that bundle. C++ would call that of
+/// the base class, which cannot know for whom. Stands behind `Q_OBJECT`, takes the name of the class, and leaves what
+/// follows private.
+///
+///     class HtmlSettings : public KZExportSettings
+///     {
+///         Q_OBJECT
+///         ORVANE_SETTINGS_BUNDLE(HtmlSettings, "com.example.html")
+///     public:
+///         using KZExportSettings::KZExportSettings;
+///     };
+///
+/// A subclass that names its bundle without it is told of in a warning, when its first object is loaded or saved.
+#define ORVANE_SETTINGS_BUNDLE(Class, identifier)                                                                      \
+    Q_CLASSINFO("BundleIdentifier", identifier)                                                                        \
+public:                                                                                                                \
+    using KZExportSettings::quotationStrings;                                                                          \
+    Q_INVOKABLE static QStringList quotationStrings()                                                                  \
+    {                                                                                                                  \
+        static_assert(std::is_same_v<decltype(&Class::metaObject), const QMetaObject *(Class::*)() const>,             \
+                      "write Q_OBJECT before ORVANE_SETTINGS_BUNDLE, which takes the name of its own class");          \
+        return KZExportSettings::quotationStrings(Class::staticMetaObject);                                            \
+    }                                                                                                                  \
+                                                                                                                       \
+private:
 
 /// The settings of one export plug-in: a dictionary of property-list values, kept in the user's defaults under the
 /// plug-in's bundle identifier.
@@ -46,10 +74,14 @@ public:
     static float measurementUnitFactor();
 
     /// Nine samples of quotation marks around "abc", in the order of the languages of "KZLocaleTransformer", from the
-    /// table "Quotes" of the bundle of `receiver`. A language or mark that the table lacks reads "(null)".
-    /// Throws `platform::RangeException` for a language whose value is an empty array, and
-    /// `platform::UnrecognisedOperationException` for one whose value is no array.
-    static QStringList quotationStrings(const QMetaObject &receiver = staticMetaObject);
+    /// table "Quotes" of the bundle of the class: here the kit's, in a subclass with `ORVANE_SETTINGS_BUNDLE` its own.
+    /// A language or mark that the table lacks reads "(null)". Throws what `platform::quotationSamples` throws.
+    ///
+    ///     KZExportSettings::quotationStrings();   // "“abc”", "„abc“", "”abc”", ...
+    static QStringList quotationStrings();
+
+    /// The same from the bundle that any class names, see `platform::Bundle::bundleForClass`.
+    static QStringList quotationStrings(const QMetaObject &receiver);
 
     /// Replaces the settings by the saved ones. Answers false, and changes nothing, when none are saved.
     bool readSettingsFromDefaults();

@@ -1,6 +1,7 @@
 #include <OrvaneExportKit/text/QuotationTable.h>
 
 #include <OrvaneExportKit/platform/Bundle.h>
+#include <OrvaneExportKit/platform/Description.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/platform/PropertyList.h>
 
@@ -40,18 +41,30 @@ std::optional<Kind> member(const QVariantMap &dictionary, const QString &key)
     return found == dictionary.end() ? std::nullopt : std::optional(required<Kind>(*found, key));
 }
 
-QuotationMarks marksInTable(const QVariantMap &table, const QString &language)
+/// The first element of a language's array; empty for a language that is not in the table.
+QVariantMap firstElement(const QVariantMap &table, const QString &language)
 {
     const auto entries = member<QVariantList>(table, language);
     if (!entries) {
         return {};
     }
     requireIndex("quotationMarks", 0, static_cast<std::size_t>(entries->size()));
-    const auto marks = required<QVariantMap>(entries->constFirst(), language + u"[0]"_s);
-    return {member<QString>(marks, u"begin"_s), member<QString>(marks, u"end"_s)};
+    return required<QVariantMap>(entries->constFirst(), language + u"[0]"_s);
+}
+
+/// What a sample shows for a mark.
+QString shownMark(const QVariantMap &marks, const QString &name)
+{
+    const auto found = marks.find(name);
+    return found == marks.end() ? u"(null)"_s : description(*found);
 }
 
 } // namespace
+
+QStringList quotationLanguages(const Bundle &bundle)
+{
+    return readTable(bundle).keys();
+}
 
 QStringList sampleLanguages()
 {
@@ -60,17 +73,17 @@ QStringList sampleLanguages()
 
 QuotationMarks quotationMarks(const Bundle &bundle, const QString &language)
 {
-    return marksInTable(readTable(bundle), language);
+    const QVariantMap marks = firstElement(readTable(bundle), language);
+    return {member<QString>(marks, u"begin"_s), member<QString>(marks, u"end"_s)};
 }
 
 QStringList quotationSamples(const Bundle &bundle)
 {
     const QVariantMap table = readTable(bundle);
-    const QString missing = u"(null)"_s;
     QStringList samples;
     for (const QString &language : sampleLanguages()) {
-        const QuotationMarks marks = marksInTable(table, language);
-        samples.append(marks.begin.value_or(missing) + u"abc"_s + marks.end.value_or(missing));
+        const QVariantMap marks = firstElement(table, language);
+        samples.append(shownMark(marks, u"begin"_s) + u"abc"_s + shownMark(marks, u"end"_s));
     }
     return samples;
 }

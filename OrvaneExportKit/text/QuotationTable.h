@@ -15,9 +15,15 @@
 ///     <key>de</key>
 ///     <array><dict><key>begin</key><string>„</string><key>end</key><string>“</string></dict></array>
 ///
+/// The codes of the kit's table are those of Unicode's locale data (CLDR): a language ("de"), with a region behind "_"
+/// where the marks differ there ("de_CH"). British English is "en_UK", as saved settings spell it. A code is matched
+/// exactly: "DE", "de-CH" and "de_AT" find nothing, and there is no falling back from "de_AT" to "de".
+/// `quotationLanguages` lists them.
+///
 /// The table is read anew by every call. One that is missing or is no such property list reads like an empty one. A
 /// value of the wrong kind is a mistake that a table's author has to hear of: whoever asks for that language gets an
-/// exception.
+/// exception. A mark that is no string is shown by the samples as it is, and gives an exception where a text is to
+/// be converted with it.
 
 namespace platform {
 
@@ -29,6 +35,11 @@ struct QuotationMarks {
     std::optional<QString> end;   ///< the closing mark
 };
 
+/// The codes of all languages that the table of a bundle holds, sorted; none when there is no table.
+///
+///     quotationLanguages(Bundle::kitBundle())   // "af", "ar", "be", ... "zh_TW"
+ORVANE_CORE_EXPORT QStringList quotationLanguages(const Bundle &bundle);
+
 /// The nine languages of the samples: "af", "de", "sv", "en_US", "en_UK", "de_CH", "it", "fr", "ja". British English is
 /// spelt as saved settings spell it.
 ORVANE_CORE_EXPORT QStringList sampleLanguages();
@@ -39,8 +50,11 @@ ORVANE_CORE_EXPORT QStringList sampleLanguages();
 /// no array, its first element no dictionary, or a mark no string.
 ORVANE_CORE_EXPORT QuotationMarks quotationMarks(const Bundle &bundle, const QString &language);
 
-/// A sample of the marks of each of the `sampleLanguages()`, around the letters abc; a missing mark reads "(null)".
-/// Throws what `quotationMarks` throws.
+/// A sample of the marks of each of the `sampleLanguages()`, around the letters abc. A missing mark reads "(null)", one
+/// that is no string as `componentTexts` writes it ("8222" for a number).
+///
+/// Throws `RangeException` for a language whose array is empty, and `UnrecognisedOperationException` for one whose
+/// value is no array or has no dictionary as its first element.
 ///
 ///     quotationSamples(Bundle::kitBundle())   // "“abc”", "„abc“", "”abc”", ...
 ORVANE_CORE_EXPORT QStringList quotationSamples(const Bundle &bundle);

@@ -32,6 +32,8 @@ def declarations(lines):
             comment.append(line)
             continue
         declaration.append(line)
+        if text.endswith("\\"):  # a macro goes on
+            continue
         code = " ".join(declaration)
         begins_scope = re.search(r"\b(class|struct|enum|namespace|extern \"C\")\b[^;()]*\{$", code.strip())
         ends = re.search(r"[;,:}](\s*//.*)?$", text) and code.count("(") == code.count(")")

@@ -132,10 +132,8 @@ public:
     void changeFont(windowing::FontPanel *sender);
 };
 
-class HtmlSettings : public KZExportSettings
+class HtmlPanel : public QObject
 {
-public:
-    using KZExportSettings::KZExportSettings;
 };
 
 class PercentTransformer : public KZEmptyStringTransformer

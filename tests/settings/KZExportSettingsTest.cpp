@@ -4,6 +4,7 @@
 #include <OrvaneExportKit/platform/PropertyList.h>
 #include <OrvaneExportKit/platform/ValueTransformer.h>
 
+#include <tests/support/Files.h>
 #include <tests/support/Printers.h>
 #include <tests/support/RecordingAlert.h>
 #include <tests/support/TemporaryDefaults.h>
@@ -139,6 +140,62 @@ TEST_F(ExportSettings, AreADeepCopyOfTheDictionaryThatTheyAreSetTo)
     EXPECT_EQ(settings.objectForKey(u"list"_s).toList(), (QVariantList{u"one"_s, u"two"_s}));
 }
 
+TEST_F(ExportSettings, HoldWhatAPropertyListMakesOfTheDictionaryThatTheyAreSetTo)
+{
+    const QDateTime noonInNewYork({2024, 2, 29}, {12, 0, 0, 700}, Qt::OffsetFromUTC, -5 * 3600);
+    settings.setDefaultDictionary({{u"int"_s, 7},
+                                   {u"float"_s, 1.5F},
+                                   {u"strings"_s, QStringList{u"a"_s}},
+                                   {u"hash"_s, QVariantHash{{u"b"_s, true}}},
+                                   {u"date"_s, noonInNewYork}});
+    const QVariantMap expected{{u"int"_s, 7LL},
+                               {u"float"_s, 1.5},
+                               {u"strings"_s, QVariantList{u"a"_s}},
+                               {u"hash"_s, QVariantMap{{u"b"_s, true}}},
+                               {u"date"_s, QDateTime({2024, 2, 29}, {17, 0}, Qt::UTC)}};
+    EXPECT_EQ(settings.defaultDictionary(), expected);
+    for (auto entry = expected.begin(); entry != expected.end(); ++entry) {
+        EXPECT_EQ(settings.objectForKey(entry.key()).metaType(), entry->metaType()) << entry.key().toStdString();
+    }
+}
+
+TEST_F(ExportSettings, AreReplacedAsAWholeByADictionary)
+{
+    settings.setInteger(1, u"before"_s);
+    settings.setInteger(2, u"both"_s);
+    settings.setDefaultDictionary({{u"both"_s, 3}, {u"after"_s, 4}});
+    EXPECT_EQ(settings.defaultDictionary(), (QVariantMap{{u"both"_s, 3}, {u"after"_s, 4}}));
+}
+
+TEST_F(ExportSettings, ReplaceAllThatWasSavedBefore)
+{
+    ASSERT_TRUE(defaults().setPersistentDomain({{u"before"_s, 1}, {u"both"_s, 2}}, domainName));
+    settings.setInteger(3, u"both"_s);
+    settings.writeSettingsToDefaults();
+    EXPECT_EQ(defaults().persistentDomainForName(domainName), (QVariantMap{{u"both"_s, 3}}));
+}
+
+TEST_F(ExportSettings, AreReplacedAsAWholeBySavedOnes)
+{
+    ASSERT_TRUE(defaults().setPersistentDomain({{u"saved"_s, 1}}, domainName));
+    settings.setInteger(3, u"before"_s);
+    EXPECT_TRUE(settings.readSettingsFromDefaults());
+    EXPECT_EQ(settings.defaultDictionary(), (QVariantMap{{u"saved"_s, 1}}));
+}
+
+TEST_F(ExportSettings, SayThatTheyWereSavedAlsoWhenWhatWasCannotBeTakenOver)
+{
+    // {"a": null}, which a binary property list can hold and a setting cannot be
+    support::writeFile(defaults().folder() + u'/' + domainName + u".plist"_s,
+                       QByteArray::fromHex("62706c6973743030d10102516100080b0d"
+                                           "000000000000010100000000000000030000000000000000"
+                                           "000000000000000e"));
+    settings.setInteger(7, u"kept"_s);
+    EXPECT_TRUE(settings.readSettingsFromDefaults());
+    EXPECT_EQ(settings.defaultDictionary(), (QVariantMap{{u"kept"_s, 7}}));
+    EXPECT_EQ(alert.errors.size(), 1);
+}
+
 TEST_F(ExportSettings, GiveTheirDictionaryAsACopy)
 {
     settings.setInteger(1, u"a"_s);
@@ -168,6 +225,18 @@ TEST_F(ExportSettings, RegisterTheTransformersOfTheObjectCreatedLast)
         EXPECT_NE(platform::valueTransformerForName(names[index]), before[index]) << names[index].toStdString();
     }
     EXPECT_EQ(registeredFactor(), 1.0F / 72);
+}
+
+TEST_F(ExportSettings, LeaveTheirTransformersBehind)
+{
+    const QString name = u"KZLocaleTransformer"_s;
+    const platform::ValueTransformer *registered = nullptr;
+    {
+        const KZExportSettings passing(domainName);
+        registered = platform::valueTransformerForName(name).get();
+        ASSERT_NE(registered, nullptr);
+    }
+    EXPECT_EQ(platform::valueTransformerForName(name).get(), registered);
 }
 
 TEST_F(ExportSettings, ComeBackFromTheDefaultsWithKeysThatNobodyKnows)
@@ -262,21 +331,63 @@ TEST_F(ExportSettings, ReadALargeUnsignedCharAsSignedByItsBits)
     EXPECT_EQ(settings.charForKey(u"a"_s), -56);
 }
 
+TEST_F(ExportSettings, ReadAStringInTheRangeOfEachType)
+{
+    settings.setObject(u"3000000000.5"_s, u"a"_s);
+    EXPECT_EQ(settings.floatForKey(u"a"_s), 3e9F);
+    EXPECT_EQ(settings.unsignedIntegerForKey(u"a"_s), 3'000'000'000U);
+    EXPECT_EQ(settings.integerForKey(u"a"_s), 2'147'483'647);
+    EXPECT_EQ(settings.unsignedCharForKey(u"a"_s), 255);
+    EXPECT_EQ(settings.charForKey(u"a"_s), 127);
+}
+
+TEST_F(ExportSettings, ReadAFractionAsTrue)
+{
+    settings.setFloat(0.5F, u"a"_s);
+    EXPECT_TRUE(settings.boolForKey(u"a"_s));
+    EXPECT_EQ(settings.integerForKey(u"a"_s), 0);
+}
+
 TEST_F(ExportSettings, ReadAStringByItsLeadingDigits)
 {
     settings.setObject(u"12"_s, u"a"_s);
     EXPECT_EQ(settings.integerForKey(u"a"_s), 12);
 }
 
-TEST_F(ExportSettings, TellObserversOfSetValueOnly)
+TEST_F(ExportSettings, TellObserversOfSetValueBeforeAndAfter)
 {
     settings.setObject(u"old"_s, u"a"_s);
     const Notices notices(settings);
-    settings.setObject(u"older"_s, u"a"_s);
-    settings.setBool(true, u"b"_s);
-    EXPECT_TRUE(notices.list.isEmpty());
     settings.setValue(u"new"_s, u"a"_s);
-    EXPECT_EQ(notices.list, (QStringList{u"will a older"_s, u"did a new"_s}));
+    EXPECT_EQ(notices.list, (QStringList{u"will a old"_s, u"did a new"_s}));
+}
+
+TEST_F(ExportSettings, TellObserversAlsoOfAnEqualValue)
+{
+    settings.setObject(u"same"_s, u"a"_s);
+    const Notices notices(settings);
+    settings.setValue(u"same"_s, u"a"_s);
+    EXPECT_EQ(notices.list, (QStringList{u"will a same"_s, u"did a same"_s}));
+}
+
+TEST_F(ExportSettings, TellObserversOfNoOtherWriter)
+{
+    settings.setObject(3, u"style"_s);
+    settings.writeSettingsToDefaults();
+    const Notices notices(settings);
+    settings.setObject(u"text"_s, u"a"_s);
+    settings.setNonPropertyListObject(QSize(1, 2), u"a"_s);
+    settings.setFloat(1.5F, u"a"_s);
+    settings.setUnsignedInteger(2, u"a"_s);
+    settings.setInteger(-2, u"a"_s);
+    settings.setUnsignedChar(3, u"a"_s);
+    settings.setChar(-3, u"a"_s);
+    settings.setBool(true, u"a"_s);
+    settings.updateQuotationSettingForKey(u"style"_s);
+    settings.setDefaultData(settings.defaultData());
+    settings.setDefaultDictionary({{u"a"_s, 4}});
+    EXPECT_TRUE(settings.readSettingsFromDefaults());
+    EXPECT_EQ(notices.list, QStringList());
 }
 
 TEST_F(ExportSettings, AnswerNoFieldUnderItsName)

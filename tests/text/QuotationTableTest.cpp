@@ -12,6 +12,7 @@
 using namespace Qt::Literals::StringLiterals;
 using platform::Bundle;
 using platform::PropertyList;
+using platform::quotationLanguages;
 using platform::QuotationMarks;
 using platform::quotationMarks;
 using platform::quotationSamples;
@@ -147,8 +148,21 @@ TEST_F(QuotationTable, RefusesAMarkThatIsNoString)
     for (const QString &name : {u"begin"_s, u"end"_s}) {
         m_folder.write(QVariantMap{{u"de"_s, entry({{name, 8222}})}});
         EXPECT_THROW(marks(u"de"_s), UnrecognisedOperationException) << name.toStdString();
-        EXPECT_THROW(samples(), UnrecognisedOperationException) << name.toStdString();
     }
+}
+
+TEST_F(QuotationTable, ShowsAMarkThatIsNoStringInItsSamples)
+{
+    m_folder.write(QVariantMap{{u"af"_s, entry({{u"begin"_s, 8222}, {u"end"_s, true}})},
+                               {u"de"_s, entry({{u"begin"_s, QVariantList{u"<"_s, 1}}})}});
+    EXPECT_EQ(samples().first(3), (QStringList{u"8222abc1"_s, u"[\"<\",1]abc(null)"_s, u"(null)abc(null)"_s}));
+}
+
+TEST_F(QuotationTable, ListsTheLanguagesThatItHolds)
+{
+    EXPECT_EQ(quotationLanguages(m_folder.bundle()), QStringList());
+    m_folder.write(QVariantMap{{u"xx"_s, entry(u"<"_s, u">"_s)}, {u"de_CH"_s, u"malformed"_s}, {u"DE"_s, 1}});
+    EXPECT_EQ(quotationLanguages(m_folder.bundle()), (QStringList{u"DE"_s, u"de_CH"_s, u"xx"_s}));
 }
 
 TEST_F(QuotationTable, SaysWhatIsOfTheWrongKind)
@@ -217,6 +231,7 @@ TEST(KitQuotationTable, HoldsTwoMarksForEveryLanguage)
 {
     const QVariantMap table = kitTable();
     EXPECT_GE(table.size(), 40);
+    EXPECT_EQ(quotationLanguages(Bundle::kitBundle()), table.keys());
     for (const QString &language : table.keys()) {
         const QuotationMarks marks = quotationMarks(Bundle::kitBundle(), language);
         for (const QString &mark : {marks.begin.value_or(QString()), marks.end.value_or(QString())}) {
