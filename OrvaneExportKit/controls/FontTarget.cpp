@@ -1,7 +1,6 @@
 #include <OrvaneExportKit/controls/FontTarget.h>
 
 #include <OrvaneExportKit/controls/KZFontNameTextField.h>
-#include <OrvaneExportKit/platform/KeyPaths.h>
 #include <OrvaneExportKit/windowing/Binding.h>
 #include <OrvaneExportKit/windowing/Font.h>
 #include <OrvaneExportKit/windowing/FontPanel.h>
@@ -37,11 +36,11 @@ void FontTarget::takeFont(FontPanel *sender)
 
 void FontTarget::store(const QString &name, const QVariant &value)
 {
-    const auto info = infoForBinding(m_field, name);
-    if (info && info->observedObject != nullptr) {
-        platform::setValueForKeyPath(info->observedObject, value, info->observedKeyPath);
+    if (Binding *binding = bindingOf(m_field, name)) {
+        binding->storeUntransformed(value);
+    } else {
+        m_field->setProperty(name.toLatin1().constData(), value);
     }
-    m_field->setProperty(name.toLatin1().constData(), value);
 }
 
 } // namespace windowing

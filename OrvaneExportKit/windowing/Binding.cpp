@@ -1,14 +1,16 @@
 #include <OrvaneExportKit/windowing/Binding.h>
 
+#include <OrvaneExportKit/platform/GeometryStrings.h>
 #include <OrvaneExportKit/platform/ScalarValues.h>
 #include <OrvaneExportKit/platform/ValueTransformer.h>
 #include <OrvaneExportKit/windowing/ControlValue.h>
+#include <OrvaneExportKit/windowing/EventGuard.h>
 
 #include <QtCore/QByteArrayView>
+#include <QtCore/QDateTime>
 #include <QtCore/QHash>
 #include <QtCore/QLocale>
 #include <QtCore/QMetaProperty>
-#include <QtCore/QRegularExpression>
 #include <QtCore/QScopedValueRollback>
 #include <QtCore/QSizeF>
 #include <QtWidgets/QComboBox>
@@ -92,18 +94,49 @@ QVariant numberFromText(const QString &text, const QLocale &locale, QMetaType ty
     return isReal(type) || converted.toDouble() == number ? converted : QVariant(number);
 }
 
-QString sizeText(QSizeF size)
+/// Whether settings can keep what a control with this type shows. What may be anything is looked at when it is saved.
+bool isSavable(QMetaType type)
 {
-    return u"{%1, %2}"_s.arg(QString::number(size.width(), 'g', QLocale::FloatingPointShortest),
-                             QString::number(size.height(), 'g', QLocale::FloatingPointShortest));
+    if (!type.isValid() || isNumber(type)) {
+        return true;
+    }
+    switch (type.id()) {
+    case QMetaType::QVariant:
+    case QMetaType::Bool:
+    case QMetaType::QString:
+    case QMetaType::QByteArray:
+    case QMetaType::QDate:
+    case QMetaType::QDateTime:
+    case QMetaType::QVariantList:
+    case QMetaType::QVariantMap:
+    case QMetaType::QStringList:
+    case QMetaType::QSizeF:
+        return true;
+    default:
+        return false;
+    }
 }
 
-/// The size that a text "{width, height}" stands for; an empty one for other texts.
-QSizeF sizeFromText(const QString &text)
+/// Whether the key path ends at settings, or in a dictionary of theirs.
+bool leadsToSettings(QObject *controller, const QString &keyPath)
 {
-    static const QRegularExpression pattern(uR"(^\s*\{\s*([^,\s]+)\s*,\s*([^,\s]+)\s*\}\s*$)"_s);
-    const QRegularExpressionMatch match = pattern.match(text);
-    return match.hasMatch() ? QSizeF(match.captured(1).toDouble(), match.captured(2).toDouble()) : QSizeF(0.0, 0.0);
+    return qobject_cast<platform::KeyValueCoding *>(platform::keyPathSteps(controller, keyPath).constLast().object) !=
+           nullptr;
+}
+
+/// A value as settings keep it, in the types of property lists.
+QVariant saved(const QVariant &value)
+{
+    switch (value.metaType().id()) {
+    case QMetaType::QSizeF:
+        return platform::stringFromSize(value.toSizeF());
+    case QMetaType::QDate:
+        return QDateTime(value.toDate(), QTime(0, 0), Qt::UTC);
+    case QMetaType::QStringList:
+        return value.toList();
+    default:
+        return value;
+    }
 }
 
 /// A value as one of the type that a control takes; the type's own first value where there is none or no way to it.
@@ -114,7 +147,10 @@ QVariant converted(const QVariant &value, QMetaType type, const QLocale &locale)
     }
     const bool isFromText = isText(value.metaType());
     if (type == QMetaType::fromType<QSizeF>() && isFromText) {
-        return sizeFromText(value.toString());
+        return platform::sizeFromString(value.toString()).value_or(QSizeF(0.0, 0.0));
+    }
+    if (type == QMetaType::fromType<QDate>() && value.metaType() == QMetaType::fromType<QDateTime>()) {
+        return value.toDateTime().toUTC().date();
     }
     if (isText(type) && isNumber(value.metaType())) {
         return numberText(value, locale);
@@ -162,6 +198,14 @@ Binding::Binding(QWidget *control, const QString &name, QObject *controller, con
     const bool isShownOnly = !m_options.valueTransformerName.isEmpty() &&
                              !transformerNamed(m_options.valueTransformerName)->allowsReverseTransformation();
     const QVariant stored = platform::valueForKeyPath(controller, keyPath);
+    const bool isStoredAsShown = !isShownOnly && m_options.valueTransformerName.isEmpty() && m_value->canBeEdited();
+    if (isStoredAsShown && !isSavable(m_value->type()) && leadsToSettings(controller, keyPath)) {
+        throw InvalidArgumentException(
+            u"%1 has a value \"%2\" of the type %3, which settings cannot save; bind it through a value transformer"_s
+                .arg(QString::fromLatin1(control->metaObject()->className()), name,
+                     QString::fromLatin1(m_value->type().name()))
+                .toStdString());
+    }
     for (Binding *earlier : control->findChildren<Binding *>(Qt::FindDirectChildrenOnly)) {
         if (earlier != this && earlier->m_name == name) {
             delete earlier;
@@ -203,9 +247,34 @@ void Binding::commit()
     } catch (const platform::Exception &) {
         refresh(); // the value is refused
         return;
+    } catch (...) {
+        refresh();
+        throw;
     }
     if (m_changesWhileBusy > 1) {
         refresh(); // the value has been corrected by somebody who was told of it
+    }
+}
+
+void Binding::commitEdit()
+{
+    guardedAction(*parent(), [this] { commit(); });
+}
+
+void Binding::storeUntransformed(const QVariant &value)
+{
+    m_changesWhileBusy = 0;
+    if (m_controller != nullptr) {
+        const QScopedValueRollback busy(m_isBusy, true); // the control waits until everybody else has been told
+        platform::setValueForKeyPath(m_controller, value, m_keyPath);
+    }
+    {
+        const QScopedValueRollback busy(m_isBusy, true);
+        m_value->setValue(value);
+        m_lastValue = m_value->value();
+    }
+    if (m_changesWhileBusy > 1) {
+        refresh();
     }
 }
 
@@ -240,11 +309,13 @@ void Binding::keyPathChanged()
         ++m_changesWhileBusy;
         return;
     }
-    try {
-        observe();                          // another object may stand on the way now
-    } catch (const platform::Exception &) { // the path leads nowhere until it changes again
-    }
-    refresh();
+    guardedDisplay(*parent(), [this] {
+        try {
+            observe();                          // another object may stand on the way now
+        } catch (const platform::Exception &) { // the path leads nowhere until it changes again
+        }
+        refresh();
+    });
 }
 
 void Binding::show(const QVariant &stored)
@@ -283,20 +354,23 @@ QVariant Binding::storedValue(const QVariant &shown) const
     if (!m_options.valueTransformerName.isEmpty()) {
         value = transformerNamed(m_options.valueTransformerName)->reverseTransformedValue(value);
     }
-    if (value.metaType() == QMetaType::fromType<QSizeF>()) {
-        return sizeText(value.toSizeF());
+    return saved(value);
+}
+
+Binding *bindingOf(const QWidget *control, const QString &name)
+{
+    for (Binding *binding : control->findChildren<Binding *>(Qt::FindDirectChildrenOnly)) {
+        if (binding->name() == name) {
+            return binding;
+        }
     }
-    return value.metaType() == QMetaType::fromType<QStringList>() ? QVariant(value.toList()) : value;
+    return nullptr;
 }
 
 std::optional<BindingInfo> infoForBinding(const QWidget *control, const QString &name)
 {
-    for (const Binding *binding : control->findChildren<const Binding *>(Qt::FindDirectChildrenOnly)) {
-        if (binding->name() == name) {
-            return binding->info();
-        }
-    }
-    return std::nullopt;
+    const Binding *binding = bindingOf(control, name);
+    return binding != nullptr ? std::optional(binding->info()) : std::nullopt;
 }
 
 void exposeBinding(const QMetaObject &controlClass, const QString &name)

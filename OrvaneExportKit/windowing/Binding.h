@@ -57,7 +57,11 @@ struct BindingInfo {
 ///
 /// A number shown in a text field is written as the field's locale does, and typed text is read back so; text that is
 /// no number is then refused, and the field shows the stored value again. So it does where the transformer or the
-/// controller refuses a value. A `QSizeF` is stored as the string "{width, height}", a string list as a list.
+/// controller refuses a value. A `QSizeF` is stored as the string "{width, height}", a string list as a list, a `QDate`
+/// as the date-time at which that day begins in UTC.
+///
+/// What the program calls throws what the model throws. What the event loop calls, an edit that ends or a change that
+/// the model tells of, throws nothing: an error goes to `platform::alertError`, and the control shows the stored value.
 ///
 /// The binding belongs to the control. For use on the application's main thread.
 class ORVANE_KIT_EXPORT Binding : public QObject
@@ -67,7 +71,8 @@ class ORVANE_KIT_EXPORT Binding : public QObject
 public:
     /// Binds, in place of an earlier binding of the same name, and shows the value.
     /// Throws `platform::InvalidArgumentException`, and leaves an earlier binding as it is, when the control has no
-    /// such value, the key path does not exist, or no transformer has the name.
+    /// such value, the key path does not exist, no transformer has the name, or the value has a type that settings
+    /// cannot save, such as `QTime`, and would be stored there without a transformer.
     Binding(QWidget *control, const QString &name, QObject *controller, const QString &keyPath,
             const BindingOptions &options = {});
     ~Binding() override;
@@ -79,8 +84,17 @@ public:
     /// Shows the stored value again, for changes that nobody was told of.
     void refresh();
 
-    /// Stores what the control shows, unless that is what was shown or stored last.
-    Q_INVOKABLE void commit();
+    /// Stores what the control shows, unless that is what was shown or stored last. Throws what the model throws beside
+    /// a `platform::Exception`, by which it refuses the value.
+    void commit();
+
+    /// The same at the end of an edit by the user: throws nothing, and gives the error to `platform::alertError`.
+    Q_INVOKABLE void commitEdit();
+
+    /// Stores a value as it is, past the transformer, and shows it then: whoever is told of the change by the model
+    /// finds the new value there while the control still shows the old one. Throws what the model throws, and leaves
+    /// the control alone then.
+    void storeUntransformed(const QVariant &value);
 
 private:
     void observe();
@@ -100,6 +114,9 @@ private:
     bool m_isBusy = false;   ///< what happens now comes from this binding
     int m_changesWhileBusy = 0;
 };
+
+/// The binding of a value of a control, which the control owns, or null.
+ORVANE_KIT_EXPORT Binding *bindingOf(const QWidget *control, const QString &name);
 
 /// What a value of a control is bound to, or nothing.
 ///

@@ -33,7 +33,7 @@ public:
         const bool isEditor = qobject_cast<QAbstractScrollArea *>(watched) != nullptr;
         if (isEditor && event->type() == QEvent::FocusOut &&
             static_cast<QFocusEvent *>(event)->reason() != Qt::PopupFocusReason) {
-            m_binding.commit();
+            m_binding.commitEdit();
         }
         return QObject::eventFilter(watched, event);
     }
@@ -58,14 +58,17 @@ public:
             m_control.installEventFilter(new FocusOutFilter(binding));
             return;
         }
-        const QMetaMethod changed = isTextOfField() ? editingFinished() : m_property.notifySignal();
-        if (changed.isValid()) {
+        if (changed().isValid()) {
             const QMetaObject &receiver = Binding::staticMetaObject;
-            QObject::connect(&m_control, changed, &binding, receiver.method(receiver.indexOfMethod("commit()")));
+            QObject::connect(&m_control, changed(), &binding, receiver.method(receiver.indexOfMethod("commitEdit()")));
         }
     }
 
+    bool canBeEdited() const override { return isTextOfEditor() || changed().isValid(); }
+
 private:
+    QMetaMethod changed() const { return isTextOfField() ? editingFinished() : m_property.notifySignal(); }
+
     QMetaMethod editingFinished() const
     {
         const QMetaObject &type = *m_control.metaObject();
@@ -138,7 +141,7 @@ public:
 
     void followEdits(Binding &binding) override
     {
-        QObject::connect(&m_button, &QAbstractButton::toggled, &binding, &Binding::commit);
+        QObject::connect(&m_button, &QAbstractButton::toggled, &binding, &Binding::commitEdit);
     }
 
 private:
@@ -209,9 +212,9 @@ public:
 
     void followEdits(Binding &binding) override
     {
-        QObject::connect(&m_comboBox, &QComboBox::activated, &binding, &Binding::commit);
+        QObject::connect(&m_comboBox, &QComboBox::activated, &binding, &Binding::commitEdit);
         if (m_comboBox.isEditable()) {
-            QObject::connect(m_comboBox.lineEdit(), &QLineEdit::editingFinished, &binding, &Binding::commit);
+            QObject::connect(m_comboBox.lineEdit(), &QLineEdit::editingFinished, &binding, &Binding::commitEdit);
         }
     }
 
@@ -238,7 +241,6 @@ std::unique_ptr<ControlValue> comboBoxValue(QComboBox &comboBox, const QString &
 } // namespace
 
 ControlValue::~ControlValue() = default;
-
 std::unique_ptr<ControlValue> ControlValue::of(QWidget &control, const QString &name)
 {
     if (auto *comboBox = qobject_cast<QComboBox *>(&control)) {

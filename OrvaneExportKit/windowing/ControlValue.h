@@ -33,6 +33,9 @@ public:
 
     /// Lets the binding commit whenever the user has changed the value.
     virtual void followEdits(Binding &binding) = 0;
+
+    /// Whether the user can change the value, as far as anybody is told of it.
+    virtual bool canBeEdited() const { return true; }
 };
 
 } // namespace windowing

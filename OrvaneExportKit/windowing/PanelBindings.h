@@ -4,6 +4,7 @@
 #include <OrvaneExportKit/platform/Exceptions.h>
 
 #include <QtCore/QObject>
+#include <QtCore/QStringList>
 #include <QtWidgets/QWidget>
 
 namespace windowing {
@@ -20,5 +21,11 @@ namespace windowing {
 ///
 ///     windowing::bindPanel(*panel, controller);
 ORVANE_KIT_EXPORT void bindPanel(QWidget &panel, QObject *controller);
+
+/// The same for a panel whose settings have certain keys and no others, such as the choices of a plug-in: an entry with
+/// another key of a settings object, misspelt perhaps, cannot be bound.
+///
+///     windowing::bindPanel(*panel, controller, {u"author"_s, u"title"_s});   // refuses "text=settings.auhtor"
+ORVANE_KIT_EXPORT void bindPanel(QWidget &panel, QObject *controller, const QStringList &knownKeys);
 
 } // namespace windowing

@@ -40,7 +40,11 @@ void PanelTest::SetUp()
     m_plugin->storeMissingChoices();
     m_host.setProperty("settings", QVariant::fromValue(&m_plugin->settings()));
     m_panel = windowing::UiLoader::load(m_plugin->bundle(), u"Panel"_s);
-    windowing::bindPanel(*m_panel, &m_host);
+    QStringList keys = m_plugin->settings().defaultDictionary().keys();
+    for (const ExportPlugin::Choice &choice : m_plugin->choices()) {
+        keys.append(choice.key);
+    }
+    windowing::bindPanel(*m_panel, &m_host, keys);
     m_panel->show();
     ASSERT_TRUE(support::isActive(m_panel.get()));
 }

@@ -9,6 +9,7 @@
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QDateTimeEdit>
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -22,6 +23,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 using windowing::Binding;
+using windowing::bindingOf;
 using windowing::BindingOptions;
 using windowing::infoForBinding;
 
@@ -498,6 +500,51 @@ TEST_F(Bindings, KeepStringListsAsLists)
     view.setProperty("names", QStringList{u"<1>"_s, u" "_s});
     EXPECT_EQ(stored(u"settings.names"_s).metaType(), QMetaType::fromType<QVariantList>());
     EXPECT_EQ(stored(u"settings.names"_s), QVariant(QVariantList{u"<1>"_s, u" "_s}));
+}
+
+TEST_F(Bindings, TakeSizesOnlyAsTheyAreWritten)
+{
+    auto &view = addControl<SizeView>();
+    settings().setObject(u" { 10 , 20.5 } "_s, u"paper"_s);
+    Binding &binding = bind(view, u"paperSize"_s, u"settings.paper"_s);
+    EXPECT_EQ(view.property("paperSize").toSizeF(), QSizeF(10.0, 20.5));
+    for (const QString &text : {u"{10, 20}x"_s, u"{10, nan}"_s, u"{10, x}"_s, u"{{0, 0}, {10, 20}}"_s}) {
+        settings().setObject(text, u"paper"_s);
+        binding.refresh();
+        EXPECT_EQ(view.property("paperSize").toSizeF(), QSizeF(0.0, 0.0)) << text.toStdString();
+    }
+}
+
+TEST_F(Bindings, KeepDatesAsTheTimesAtWhichTheyBegin)
+{
+    auto &field = addControl<QDateEdit>();
+    bind(field, u"date"_s, u"settings.published"_s);
+    field.setDate(QDate(2026, 3, 29));
+    EXPECT_EQ(settings().objectForKey(u"published"_s), QVariant(QDateTime({2026, 3, 29}, {0, 0}, Qt::UTC)));
+
+    const QByteArray saved = settings().defaultData();
+    ASSERT_FALSE(saved.isEmpty());
+    field.setDate(QDate(2001, 1, 1));
+    settings().setDefaultData(saved);
+    bindingOf(&field, u"date"_s)->refresh();
+    EXPECT_EQ(field.date(), QDate(2026, 3, 29));
+}
+
+TEST_F(Bindings, RefuseATypeThatSettingsCannotSave)
+{
+    auto &field = addControl<QTimeEdit>();
+    try {
+        bind(field, u"time"_s, u"settings.start"_s);
+        FAIL() << "bound";
+    } catch (const platform::InvalidArgumentException &error) {
+        EXPECT_STREQ(error.what(), "QTimeEdit has a value \"time\" of the type QTime, which settings cannot save; bind "
+                                   "it through a value transformer");
+    }
+    EXPECT_THROW(bind(field, u"time"_s, u"settings.times.start"_s), platform::InvalidArgumentException);
+    EXPECT_NO_THROW(
+        bind(field, u"time"_s, u"settings.start"_s, {.valueTransformerName = u"KZEmptyStringTransformer"_s}));
+    EXPECT_NO_THROW(bind(field, u"time"_s, u"name"_s)); // what an object's own property takes is its own business
+    EXPECT_NO_THROW(bind(field, u"font"_s, u"settings.font"_s)); // which nobody edits
 }
 
 TEST_F(Bindings, ShowValuesOfPropertiesWithoutASignal)

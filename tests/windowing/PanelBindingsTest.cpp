@@ -77,4 +77,23 @@ TEST_F(PanelBindings, TellAllThatCannotBeBoundWithTheNameOfTheControlAndBindTheR
     EXPECT_EQ(m_title->toolTip(), u"Plain Text"_s);
 }
 
+TEST_F(PanelBindings, TellAKeyThatTheSettingsDoNotKnow)
+{
+    m_title->setProperty("bindings", QStringList{u"text=settings.auhtor"_s, u"toolTip=name"_s});
+    m_count->setProperty("bindings", QStringList{u"value=settings.margin.top"_s});
+    m_controller.settings()->setObject(QVariantMap{{u"top"_s, 72}}, u"margin"_s);
+    m_controller.setProperty("name", u"Plain Text"_s);
+    QString problems;
+    try {
+        windowing::bindPanel(m_panel, &m_controller, {u"author"_s, u"margin"_s});
+    } catch (const platform::InvalidArgumentException &error) {
+        problems = QString::fromUtf8(error.what());
+    }
+    EXPECT_EQ(problems,
+              u"titleField: \"text=settings.auhtor\": there is no choice \"auhtor\"; there are: author, margin"_s);
+    EXPECT_FALSE(windowing::infoForBinding(m_title, u"text"_s));
+    EXPECT_EQ(m_title->toolTip(), u"Plain Text"_s);
+    EXPECT_EQ(m_count->value(), 72);
+}
+
 } // namespace

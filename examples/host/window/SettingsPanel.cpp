@@ -13,6 +13,20 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace host {
 
+namespace {
+
+/// The keys that a panel can be bound to: those of the choices, and of what else the plug-in keeps in its settings.
+QStringList knownKeys(ExportPlugin &plugin)
+{
+    QStringList keys = plugin.settings().defaultDictionary().keys();
+    for (const ExportPlugin::Choice &choice : plugin.choices()) {
+        keys.append(choice.key);
+    }
+    return keys;
+}
+
+} // namespace
+
 SettingsPanel::SettingsPanel(QWidget *parent) : QScrollArea(parent)
 {
     setWidgetResizable(true);
@@ -36,7 +50,7 @@ void SettingsPanel::showPanel(ExportPlugin &plugin)
     try {
         auto panel = windowing::UiLoader::load(plugin.bundle(), u"Panel"_s);
         m_controller = std::make_unique<PanelController>(plugin.settings());
-        windowing::bindPanel(*panel, m_controller.get());
+        windowing::bindPanel(*panel, m_controller.get(), knownKeys(plugin));
         m_contentView = new KZContentView;
         auto *layout = new QVBoxLayout(m_contentView);
         layout->setContentsMargins(0, 0, 0, 0);
