@@ -3,9 +3,11 @@
 #include <OrvaneExportKit/platform/Bundle.h>
 #include <OrvaneExportKit/platform/NotificationCenter.h>
 #include <OrvaneExportKit/settings/SettingsKeys.h>
+#include <OrvaneExportKit/windowing/EventGuard.h>
 #include <OrvaneExportKit/windowing/UiLoader.h>
 
 #include <QtGui/QTextDocument>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QPushButton>
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,7 +23,10 @@ KZExportProgress::KZExportProgress(QWidget *window, qint32 steps)
       m_theWindow(window)
 {
     auto *abortButton = UiLoader::outlet<QPushButton>(*m_progressPanel, u"abortButton"_s);
-    connect(abortButton, &QPushButton::clicked, this, [this, abortButton] { abortExport(abortButton); });
+    connect(abortButton, &QPushButton::clicked, this, [this, abortButton] {
+        // Whoever is told may destroy this object.
+        windowing::guardedAction(*qApp, [this, abortButton] { abortExport(abortButton); });
+    });
     connect(m_progressPanel.get(), &Panel::cancelRequested, abortButton, &QPushButton::click);
     abortButton->setFocus();
     resetProgressBar();

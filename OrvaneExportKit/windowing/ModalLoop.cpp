@@ -1,5 +1,7 @@
 #include <OrvaneExportKit/windowing/ModalLoop.h>
 
+#include <OrvaneExportKit/windowing/EventGuard.h>
+
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
@@ -38,8 +40,6 @@ bool isInput(const QEvent &event)
     case QEvent::DragMove:
     case QEvent::Drop:
         return true;
-    case QEvent::Close:
-        return event.spontaneous();
     default:
         return false;
     }
@@ -130,7 +130,8 @@ void ModalLoop::beginSheet(QDialog *sheet, QWidget *window, const SheetDidEnd &d
     const auto connections = std::make_shared<QObject>();
     connect(sheet, &QObject::destroyed, connections.get(), [this, sheet] { m_sheets.remove(sheet); });
     if (window != nullptr) {
-        connect(window, &QObject::destroyed, connections.get(), [this, sheet] { endSheet(sheet, 0); });
+        connect(window, &QObject::destroyed, connections.get(),
+                [this, sheet] { guardedAction(*this, [this, sheet] { endSheet(sheet, 0); }); });
     }
     m_sheets.insert(sheet, {didEnd, connections});
 
@@ -187,12 +188,26 @@ bool ModalLoop::eventFilter(QObject *receiver, QEvent *event)
             }
         }
     }
-    if (!isInput(*event)) {
+    if (event->type() == QEvent::Quit && receiver == QCoreApplication::instance()) {
+        event->ignore();
+        holdBackQuit();
+        return true;
+    }
+    const auto *closed = event->type() == QEvent::Close ? qobject_cast<QWindow *>(receiver) : nullptr;
+    if (closed != nullptr && closed == m_askedWindow) {
+        m_askedWindow = nullptr;
+        event->ignore();
+        return true;
+    }
+    if (!isInput(*event) && closed == nullptr) {
         return false;
     }
     QDialog *window = modalWindow();
     const QWidget *latest = QApplication::activeModalWidget();
     if (window == nullptr || belongsTo(receiver, window) || (latest != nullptr && belongsTo(receiver, latest))) {
+        return false;
+    }
+    if (closed != nullptr && !isClosedByUser(static_cast<QWindow *>(receiver))) {
         return false;
     }
     if (event->type() == QEvent::MouseButtonPress) {
@@ -201,6 +216,27 @@ bool ModalLoop::eventFilter(QObject *receiver, QEvent *event)
     }
     event->ignore();
     return true;
+}
+
+/// Whether the user closes a window that is told to close, and not the program. Qt sends the same event for both; but a
+/// window that is in its `close` does not begin another one.
+bool ModalLoop::isClosedByUser(QWindow *window)
+{
+    m_askedWindow = window;
+    window->close();
+    return std::exchange(m_askedWindow, nullptr) == nullptr;
+}
+
+/// Asks all modal windows to cancel, the innermost first. The application quits when the last of them has ended.
+void ModalLoop::holdBackQuit()
+{
+    m_quitsAfterwards = true;
+    const QList<ModalSession *> sessions = m_sessions;
+    for (auto session = sessions.rbegin(); session != sessions.rend(); ++session) {
+        if (m_sessions.contains(*session) && (*session)->m_window != nullptr) {
+            (*session)->m_window->close();
+        }
+    }
 }
 
 void ModalLoop::add(ModalSession *session)
@@ -216,6 +252,9 @@ void ModalLoop::remove(ModalSession *session)
     m_sessions.removeOne(session);
     if (m_sessions.isEmpty() && QCoreApplication::instance() != nullptr) {
         QCoreApplication::instance()->removeEventFilter(this);
+        if (std::exchange(m_quitsAfterwards, false)) {
+            QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit, Qt::QueuedConnection);
+        }
     }
 }
 

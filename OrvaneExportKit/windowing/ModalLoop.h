@@ -23,6 +23,9 @@ class ModalLoop;
 /// Modal dialogs that are opened meanwhile, such as message boxes, take input too. A window that is destroyed takes
 /// none any more.
 ///
+/// The user cannot close the other windows meanwhile; the program can. An application that is told to quit asks the
+/// modal windows to close, which is to cancel for a `Panel`, and quits when the last session has ended.
+///
 ///     const auto session = windowing::ModalLoop::modalLoop().beginModalSessionForWindow(panel);
 ///     for (const auto &step : steps) { work(step); session->run(); }
 ///     session->end();
@@ -118,9 +121,13 @@ private:
     void add(ModalSession *session);
     void remove(ModalSession *session);
     QDialog *modalWindow() const;
+    bool isClosedByUser(QWindow *window);
+    void holdBackQuit();
 
     QHash<const QDialog *, Sheet> m_sheets;
-    QList<ModalSession *> m_sessions; ///< the innermost last
+    QList<ModalSession *> m_sessions;       ///< the innermost last
+    const QWindow *m_askedWindow = nullptr; ///< the one that is asked who closes it
+    bool m_quitsAfterwards = false;
 };
 
 } // namespace windowing

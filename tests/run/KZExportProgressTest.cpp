@@ -318,6 +318,31 @@ TEST_F(ExportProgress, LetsAHandlerOfEscapeDestroyIt)
     EXPECT_EQ(progress, nullptr);
 }
 
+TEST_F(ExportProgress, IsAbortedWhenTheApplicationIsToQuitWhichItDoesThen)
+{
+    quint32 steps = 0;
+    bool isVisibleToTheEnd = false;
+    QTimer::singleShot(0, &m_document, [&] {
+        KZExportProgress progress(&m_document, 100);
+        const AbortFlag abort(progress);
+        progress.showSheet();
+        while (progress.currentStep() < progress.maxSteps() && !abort.isSet()) {
+            if (progress.currentStep() == 3) {
+                QCoreApplication::quit();
+            }
+            progress.incrementToNextStep();
+        }
+        steps = progress.currentStep();
+        isVisibleToTheEnd = m_document.isVisible() && progress.progressPanel()->isVisible();
+        progress.hideSheet();
+    });
+    QTimer::singleShot(5000, &m_document, [] { QCoreApplication::exit(1); });
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+    EXPECT_EQ(steps, 4U);
+    EXPECT_TRUE(isVisibleToTheEnd);
+    EXPECT_FALSE(m_document.isVisible());
+}
+
 TEST_F(ExportProgress, LeavesNothingBehindWhenItIsDestroyedWithItsSheetUp)
 {
     {

@@ -1,5 +1,6 @@
 #include <OrvaneExportKit/windowing/ModalLoop.h>
 
+#include <OrvaneExportKit/windowing/Panel.h>
 #include <tests/support/DocumentWindow.h>
 #include <tests/support/Input.h>
 #include <tests/support/PaintCounter.h>
@@ -9,6 +10,7 @@
 
 #include <QtGui/QShortcut>
 #include <QtTest/QSignalSpy>
+#include <QtTest/qtestspontaneevent.h>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
@@ -58,6 +60,14 @@ public:
 };
 
 constexpr int allInput = 4;
+
+/// What the window manager says when the user clicks the close button.
+void closeAsUser(const QWidget &widget)
+{
+    QCloseEvent close;
+    QSpontaneKeyEvent::setSpontaneous(&close);
+    qApp->notify(widget.windowHandle(), &close);
+}
 
 /// The document window, another window of the application and a dialog, of which only the dialog is not shown.
 class ModalLoopTest : public testing::Test
@@ -138,9 +148,11 @@ TEST_F(ModalLoopTest, KeepsWheelContextMenuShortcutsAndClosingFromOtherWindows)
     {
         const auto session = m_loop.beginModalSessionForWindow(&m_sheet);
         act();
-        EXPECT_FALSE(m_other.close());
+        closeAsUser(m_other);
+        closeAsUser(m_document);
     }
     EXPECT_TRUE(m_other.isVisible());
+    EXPECT_TRUE(m_document.isVisible());
     EXPECT_EQ(menus.size() + shortcuts.size() + choices.currentIndex(), 0);
 
     m_sheet.hide();
@@ -150,7 +162,43 @@ TEST_F(ModalLoopTest, KeepsWheelContextMenuShortcutsAndClosingFromOtherWindows)
     EXPECT_EQ(menus.size(), 1);
     EXPECT_EQ(shortcuts.size(), 1);
     EXPECT_EQ(choices.currentIndex(), 1);
+    closeAsUser(m_other);
+    EXPECT_FALSE(m_other.isVisible());
+}
+
+TEST_F(ModalLoopTest, LetsTheProgramCloseOtherWindows)
+{
+    showSheet();
+    const auto session = m_loop.beginModalSessionForWindow(&m_sheet);
     EXPECT_TRUE(m_other.close());
+    EXPECT_FALSE(m_other.isVisible());
+    EXPECT_TRUE(m_document.close());
+    EXPECT_FALSE(m_document.isVisible());
+    EXPECT_TRUE(m_sheet.isVisible());
+}
+
+TEST_F(ModalLoopTest, QuitsWhenTheLastSessionHasEnded)
+{
+    windowing::Panel panel;
+    int cancels = 0;
+    QObject::connect(&panel, &windowing::Panel::cancelRequested, &panel, [&cancels] { ++cancels; });
+    m_loop.beginSheet(&panel, &m_document, {});
+    bool isQuitting = false;
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &panel, [&isQuitting] { isQuitting = true; });
+    QTimer::singleShot(0, &panel, [&] {
+        const auto outer = m_loop.beginModalSessionForWindow(&panel);
+        QCoreApplication::quit();
+        outer->run();
+        outer->run();
+        EXPECT_EQ(cancels, 1);
+        EXPECT_TRUE(panel.isVisible());
+        EXPECT_FALSE(isQuitting);
+        m_loop.endSheet(&panel, 0);
+        panel.hide();
+        outer->end();
+    });
+    QTimer::singleShot(5000, &panel, [] { QCoreApplication::exit(1); });
+    EXPECT_EQ(QCoreApplication::exec(), 0);
 }
 
 TEST_F(ModalLoopTest, LetsOtherWindowsRepaint)
