@@ -1,5 +1,6 @@
 #include <OrvaneExportKit/controls/KZContentView.h>
 
+#include <OrvaneExportKit/windowing/EventGuard.h>
 #include <OrvaneExportKit/windowing/UiLoader.h>
 
 #include <QtCore/QCoreApplication>
@@ -40,7 +41,7 @@ KZContentView::KZContentView(QWidget *parent) : QWidget(parent)
 KZContentView::~KZContentView()
 {
     // No more than that: the window may be about to go, too.
-    endEdit(focusWidget());
+    windowing::guardedAction(*this, [this] { endEdit(focusWidget()); });
 }
 
 void KZContentView::removeFromSuperview()
@@ -52,7 +53,7 @@ void KZContentView::removeFromSuperview()
 bool KZContentView::event(QEvent *event)
 {
     if (event->type() == QEvent::ParentAboutToChange) {
-        makeFirstResponder(window());
+        windowing::guardedAction(*this, [this] { makeFirstResponder(window()); });
     }
     return QWidget::event(event);
 }

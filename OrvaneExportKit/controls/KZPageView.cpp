@@ -4,6 +4,7 @@
 #include <OrvaneExportKit/settings/MeasurementUnits.h>
 #include <OrvaneExportKit/windowing/ArchivedViews.h>
 #include <OrvaneExportKit/windowing/Binding.h>
+#include <OrvaneExportKit/windowing/EventGuard.h>
 #include <OrvaneExportKit/windowing/Frames.h>
 #include <OrvaneExportKit/windowing/PrintInfo.h>
 #include <OrvaneExportKit/windowing/UiLoader.h>
@@ -38,6 +39,12 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
+        return windowing::guardedValue(m_view, QString(), [this, kind] { return textOf(kind); });
+    }
+
+private:
+    QString textOf(QAccessible::Text kind) const
+    {
         QString given = QAccessibleWidget::text(kind);
         if (!given.isEmpty()) {
             return given;
@@ -48,7 +55,6 @@ public:
         return kind == QAccessible::Description ? description() : QString();
     }
 
-private:
     QString description() const
     {
         return KZPageView::tr("Page %1; margins: top %2, left %3, right %4, bottom %5")
@@ -236,6 +242,11 @@ QSize KZPageView::minimumSizeHint() const
 }
 
 void KZPageView::paintEvent(QPaintEvent * /*event*/)
+{
+    windowing::guardedDisplay(*this, [this] { drawPage(); });
+}
+
+void KZPageView::drawPage()
 {
     using windowing::PageDrawing;
 

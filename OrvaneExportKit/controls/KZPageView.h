@@ -87,6 +87,7 @@ private:
     void editRightMargin(double margin) { setRightMargin(static_cast<float>(margin)); }
     void editBottomMargin(double margin) { setBottomMargin(static_cast<float>(margin)); }
     void valueChanged();
+    void drawPage();
 
     QSizeF m_paperSize;
     windowing::PageMargins m_margins;

@@ -1,6 +1,7 @@
 #include <OrvaneExportKit/windowing/DictionaryModel.h>
 
 #include <OrvaneExportKit/platform/ScalarValues.h>
+#include <OrvaneExportKit/windowing/EventGuard.h>
 
 namespace windowing {
 
@@ -37,6 +38,11 @@ Qt::ItemFlags DictionaryModel::flags(const QModelIndex &index) const
 }
 
 QVariant DictionaryModel::data(const QModelIndex &index, int role) const
+{
+    return guardedValue(*this, QVariant(), [&] { return shownData(index, role); });
+}
+
+QVariant DictionaryModel::shownData(const QModelIndex &index, int role) const
 {
     if (!index.isValid() || !isBoolean(index.column())) {
         return ArrayController::data(index, role == Qt::EditRole ? Qt::DisplayRole : role);

@@ -29,6 +29,8 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
 private:
+    QVariant shownData(const QModelIndex &index, int role) const;
+
     QStringList m_booleanKeys;
     QStringList m_titles;
 };

@@ -1,6 +1,7 @@
 #include <OrvaneExportKit/windowing/DictionaryTable.h>
 
 #include <OrvaneExportKit/windowing/DictionaryModel.h>
+#include <OrvaneExportKit/windowing/EventGuard.h>
 #include <OrvaneExportKit/windowing/UiLoader.h>
 
 #include <QtCore/QEvent>
@@ -61,11 +62,14 @@ DictionaryTable::DictionaryTable(QWidget *parent)
     for (QPushButton *button : {m_addButton, m_removeButton, m_upButton, m_downButton}) {
         button->setAutoDefault(false); // Return edits a cell in a dialog too
     }
-    connect(m_addButton, &QPushButton::clicked, this, &DictionaryTable::addRow);
-    connect(m_removeButton, &QPushButton::clicked, this, &DictionaryTable::removeRow);
-    connect(m_upButton, &QPushButton::clicked, this, [this] { moveRow(-1); });
-    connect(m_downButton, &QPushButton::clicked, this, [this] { moveRow(1); });
-    connect(removeAction, &QAction::triggered, this, &DictionaryTable::removeRow);
+    const auto onRequest = [this](auto *sender, auto requested, const auto &work) {
+        connect(sender, requested, this, [this, work] { guardedAction(*this, work); });
+    };
+    onRequest(m_addButton, &QPushButton::clicked, [this] { addRow(); });
+    onRequest(m_removeButton, &QPushButton::clicked, [this] { removeRow(); });
+    onRequest(m_upButton, &QPushButton::clicked, [this] { moveRow(-1); });
+    onRequest(m_downButton, &QPushButton::clicked, [this] { moveRow(1); });
+    onRequest(removeAction, &QAction::triggered, [this] { removeRow(); });
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &DictionaryTable::updateButtons);
     for (const auto changed : {&DictionaryModel::rowsInserted, &DictionaryModel::rowsRemoved}) {
         connect(m_model, changed, this, &DictionaryTable::contentChanged);
@@ -124,6 +128,7 @@ void DictionaryTable::setContent(const QVariantList &content)
         objects.append(object.toMap());
     }
     const QModelIndex current = m_table->currentIndex();
+    forgetToldErrors(*m_model);
     m_model->setContent(objects);
     m_table->setCurrentIndex(m_model->index(std::min(current.row(), m_model->rowCount() - 1), current.column()));
     Q_EMIT contentChanged();

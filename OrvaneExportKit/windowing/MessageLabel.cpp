@@ -1,5 +1,6 @@
 #include <OrvaneExportKit/windowing/MessageLabel.h>
 
+#include <OrvaneExportKit/windowing/EventGuard.h>
 #include <OrvaneExportKit/windowing/UiLoader.h>
 
 #include <QtCore/QtMath>
@@ -62,6 +63,11 @@ int MessageLabel::heightForWidth(int width) const
 }
 
 void MessageLabel::paintEvent(QPaintEvent * /*event*/)
+{
+    guardedDisplay(*this, [this] { drawMessage(); });
+}
+
+void MessageLabel::drawMessage()
 {
     QPainter painter(this);
     const QRect place = contentsRect();

@@ -23,6 +23,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    void drawMessage();
 };
 
 } // namespace windowing

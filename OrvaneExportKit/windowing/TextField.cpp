@@ -1,5 +1,6 @@
 #include <OrvaneExportKit/windowing/TextField.h>
 
+#include <OrvaneExportKit/windowing/EventGuard.h>
 #include <OrvaneExportKit/windowing/ParagraphStyle.h>
 #include <OrvaneExportKit/windowing/TextAttributes.h>
 
@@ -93,9 +94,11 @@ void TextField::paintEvent(QPaintEvent *event)
         QLineEdit::paintEvent(event);
         return;
     }
-    QPainter painter(this);
-    drawBezel(painter);
-    drawText(painter);
+    guardedDisplay(*this, [this] {
+        QPainter painter(this);
+        drawBezel(painter);
+        drawText(painter);
+    });
 }
 
 void TextField::drawBezel(QPainter &painter) const
