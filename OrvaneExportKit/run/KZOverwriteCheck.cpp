@@ -2,6 +2,7 @@
 
 #include <OrvaneExportKit/platform/Paths.h>
 #include <OrvaneExportKit/run/FileNameChecks.h>
+#include <OrvaneExportKit/windowing/EventGuard.h>
 #include <OrvaneExportKit/windowing/MainWindow.h>
 #include <OrvaneExportKit/windowing/ModalLoop.h>
 #include <OrvaneExportKit/windowing/UiLoader.h>
@@ -10,8 +11,12 @@
 #include <QtGui/QAction>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QIcon>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QLayout>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QTableView>
 
 #include <algorithm>
@@ -45,6 +50,36 @@ void copySelection(const QTableView &table)
     QGuiApplication::clipboard()->setText(names.join(u'\n'));
 }
 
+/// A label of the sheet that an interface file may lack, or null.
+QLabel *label(const QWidget &panel, const char *name)
+{
+    return panel.findChild<QLabel *>(QLatin1StringView(name));
+}
+
+void showWarningIcon(QWidget &panel)
+{
+    if (QLabel *icon = label(panel, "warningIcon")) {
+        const int extent = panel.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &panel);
+        const QIcon warning = panel.style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, &panel);
+        icon->setPixmap(warning.pixmap(QSize(extent, extent), panel.devicePixelRatioF()));
+    }
+}
+
+/// Makes the sheet as high as its list needs, up to some rows; longer lists scroll.
+void fitToList(QWidget &panel)
+{
+    constexpr int mostRows = 10;
+    auto *table = UiLoader::outlet<QTableView>(panel, u"filesTable"_s);
+    const int rows = std::min(table->model()->rowCount(), mostRows);
+    int height = 2 * table->frameWidth();
+    for (int row = 0; row < rows; ++row) {
+        height += table->rowHeight(row);
+    }
+    table->setMinimumHeight(height);
+    panel.ensurePolished();
+    panel.resize(panel.width(), panel.layout()->totalMinimumHeightForWidth(panel.width()));
+}
+
 } // namespace
 
 bool KZArrayExportAdditions::overwriteExistingFilesCheck(const QStringList &paths)
@@ -58,6 +93,7 @@ bool KZArrayExportAdditions::overwriteExistingFilesCheck(const QStringList &path
     }
     KZOverwriteCheck check;
     check.setFileNames(existingNames);
+    check.setNumberOfPaths(paths.size());
     check.setFolder(displayName(platform::deletingLastPathComponent(paths.first())));
     check.showSheetOnWindow(windowing::mainWindow());
     return ModalLoop::modalLoop().runModalForWindow(check.overwritePanel()) == replaceTag;
@@ -71,17 +107,22 @@ KZOverwriteCheck::KZOverwriteCheck()
     auto *filesTable = UiLoader::outlet<QTableView>(*m_overwritePanel, u"filesTable"_s);
     filesTable->setModel(m_filesController.get());
     connect(UiLoader::outlet<QAction>(*m_overwritePanel, u"copyAction"_s), &QAction::triggered, filesTable,
-            [filesTable] { copySelection(*filesTable); });
+            [filesTable] { windowing::guardedAction(*filesTable, [filesTable] { copySelection(*filesTable); }); });
 
     auto *buttonBox = UiLoader::outlet<QDialogButtonBox>(*m_overwritePanel, u"buttonBox"_s);
     for (QPushButton *button : m_overwritePanel->findChildren<QPushButton *>()) {
         const bool replaces = button->property("tag").toInt() == replaceTag;
         buttonBox->addButton(button, replaces ? QDialogButtonBox::AcceptRole : QDialogButtonBox::RejectRole);
-        connect(button, &QPushButton::clicked, this, [this, button] { buttonClicked(button); });
+        connect(button, &QPushButton::clicked, this,
+                [this, button] { windowing::guardedAction(*qApp, [this, button] { buttonClicked(button); }); });
     }
     auto *cancelButton = UiLoader::outlet<QPushButton>(*m_overwritePanel, u"cancelButton"_s);
     connect(m_overwritePanel.get(), &Panel::cancelRequested, cancelButton, &QPushButton::click);
     cancelButton->setFocus();
+    showWarningIcon(*m_overwritePanel);
+    if (QLabel *count = label(*m_overwritePanel, "countField")) {
+        count->hide(); // until the numbers are known
+    }
 }
 
 KZOverwriteCheck::~KZOverwriteCheck() = default;
@@ -107,8 +148,18 @@ void KZOverwriteCheck::setFolder(const QString &folder)
     }
 }
 
+void KZOverwriteCheck::setNumberOfPaths(qsizetype number)
+{
+    if (QLabel *count = label(*m_overwritePanel, "countField")) {
+        const QLocale locale = m_overwritePanel->locale();
+        count->setText(count->text().arg(locale.toString(m_filesController->rowCount()), locale.toString(number)));
+        count->show();
+    }
+}
+
 void KZOverwriteCheck::showSheetOnWindow(QWidget *window)
 {
+    fitToList(*m_overwritePanel);
     ModalLoop::modalLoop().beginSheet(m_overwritePanel.get(), window, [this](qint32 returnCode) {
         sheetDidEnd(m_overwritePanel.get(), returnCode, nullptr);
     });

@@ -28,7 +28,8 @@ ORVANE_KIT_EXPORT bool overwriteExistingFilesCheck(const QStringList &paths);
 /// The sheet that `overwriteExistingFilesCheck` asks with, from the interface file "ExistingFiles" of the kit's bundle.
 ///
 /// It lives for one question: created, filled, shown and answered once. In the interface file, every push button
-/// answers with its property "tag", a whole number: the one with tag 1 confirms, the others cancel.
+/// answers with its property "tag", a whole number: the one with tag 1 confirms, the others cancel. A label
+/// `warningIcon` gets the style's warning icon.
 class ORVANE_KIT_EXPORT KZOverwriteCheck : public QObject
 {
     Q_OBJECT
@@ -44,6 +45,10 @@ public:
 
     /// Adds the names to the list, in their order, behind those that are there.
     void setFileNames(const QStringList &names);
+
+    /// Says how many of all the paths that will be written exist: as many as there are names in the list. That place in
+    /// the message is gone afterwards. An interface file without a label `countField` says nothing.
+    void setNumberOfPaths(qsizetype number);
 
     /// Puts the folder's name into the message, in the place of "%@". That place is gone afterwards.
     void setFolder(const QString &folder);

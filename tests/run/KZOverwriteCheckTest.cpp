@@ -10,6 +10,7 @@
 
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QClipboard>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QTableView>
 
 namespace {
@@ -244,6 +245,56 @@ TEST_F(OverwriteCheck, ResizesTheListWithTheSheet)
         press(sheet, Qt::Key_Escape);
     });
     EXPECT_FALSE(overwriteExistingFilesCheck({path(u"b.txt"_s)}));
+}
+
+TEST_F(OverwriteCheck, SaysHowManyOfHowManyExistBesideAWarningIcon)
+{
+    support::writeFile(path(u"d.txt"_s), "old");
+    whenModal([](const QWidget &sheet) {
+        const auto *count = sheet.findChild<QLabel *>(u"countField"_s);
+        EXPECT_TRUE(count->isVisible());
+        EXPECT_EQ(count->text(), u"Items that exist already: 2 of 5"_s);
+        const auto *icon = sheet.findChild<QLabel *>(u"warningIcon"_s);
+        EXPECT_FALSE(icon->pixmap().isNull());
+        press(sheet, Qt::Key_Escape);
+    });
+    EXPECT_FALSE(overwriteExistingFilesCheck(
+        {path(u"a.txt"_s), path(u"b.txt"_s), path(u"c.txt"_s), path(u"d.txt"_s), path(u"e.txt"_s)}));
+}
+
+TEST_F(OverwriteCheck, IsNoLargerThanItsListNeeds)
+{
+    QStringList paths;
+    const auto heightWith = [&](int files) {
+        while (paths.size() < files) {
+            paths.append(path(QString::number(paths.size()) + u".txt"_s));
+            support::writeFile(paths.constLast(), "old");
+        }
+        int height = 0;
+        whenModal([&](const QWidget &sheet) {
+            height = sheet.height();
+            const int rows = std::min(files, 10);
+            EXPECT_LE(table(sheet).viewport()->height() - rows * table(sheet).rowHeight(0), 2);
+            EXPECT_EQ(table(sheet).verticalScrollBar()->maximum() > 0, files > 10);
+            press(sheet, Qt::Key_Escape);
+        });
+        EXPECT_FALSE(overwriteExistingFilesCheck(paths));
+        return height;
+    };
+    const int withOne = heightWith(1);
+    const int withFive = heightWith(5);
+    const int withTen = heightWith(10);
+    EXPECT_LT(withOne, withFive);
+    EXPECT_LT(withFive, withTen);
+    EXPECT_EQ(heightWith(40), withTen);
+}
+
+TEST_F(OverwriteCheck, SaysNothingOfNumbersThatItDoesNotKnow)
+{
+    KZOverwriteCheck check;
+    check.setFileNames({u"a.txt"_s});
+    check.showSheetOnWindow(&m_document);
+    EXPECT_FALSE(check.overwritePanel()->findChild<QLabel *>(u"countField"_s)->isVisible());
 }
 
 TEST_F(OverwriteCheck, FitsOnTheWindowWithLongNames)

@@ -8,6 +8,11 @@
         <translation>Bestaande lêers vervang?</translation>
     </message>
     <message>
+        <source>Items that exist already: %1 of %2</source>
+        <extracomment>Numbers of files and folders.</extracomment>
+        <translation>Items wat reeds bestaan: %1 van %2</translation>
+    </message>
+    <message>
         <source>The folder “%@” already contains the items below. If you replace them, their current contents are lost.</source>
         <extracomment>%@ is the name of a folder.</extracomment>
         <translation>Die vouer “%@” bevat reeds die items hieronder. As jy hulle vervang, gaan hul huidige inhoud verlore.</translation>

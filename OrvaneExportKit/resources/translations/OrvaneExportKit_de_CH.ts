@@ -8,6 +8,11 @@
         <translation>Vorhandene Dateien ersetzen?</translation>
     </message>
     <message>
+        <source>Items that exist already: %1 of %2</source>
+        <extracomment>Numbers of files and folders.</extracomment>
+        <translation>Bereits vorhandene Objekte: %1 von %2</translation>
+    </message>
+    <message>
         <source>The folder “%@” already contains the items below. If you replace them, their current contents are lost.</source>
         <extracomment>%@ is the name of a folder.</extracomment>
         <translation>Der Ordner «%@» enthält bereits die unten stehenden Objekte. Wenn Sie sie ersetzen, geht ihr bisheriger Inhalt verloren.</translation>

@@ -8,6 +8,11 @@
         <translation>Remplacer les fichiers existants ?</translation>
     </message>
     <message>
+        <source>Items that exist already: %1 of %2</source>
+        <extracomment>Numbers of files and folders.</extracomment>
+        <translation>Éléments déjà présents : %1 sur %2</translation>
+    </message>
+    <message>
         <source>The folder “%@” already contains the items below. If you replace them, their current contents are lost.</source>
         <extracomment>%@ is the name of a folder.</extracomment>
         <translation>Le dossier « %@ » contient déjà les éléments ci-dessous. Si vous les remplacez, leur contenu actuel sera perdu.</translation>

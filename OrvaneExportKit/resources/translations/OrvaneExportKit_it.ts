@@ -8,6 +8,11 @@
         <translation>Sostituire i file esistenti?</translation>
     </message>
     <message>
+        <source>Items that exist already: %1 of %2</source>
+        <extracomment>Numbers of files and folders.</extracomment>
+        <translation>Elementi già presenti: %1 di %2</translation>
+    </message>
+    <message>
         <source>The folder “%@” already contains the items below. If you replace them, their current contents are lost.</source>
         <extracomment>%@ is the name of a folder.</extracomment>
         <translation>La cartella «%@» contiene già gli elementi elencati sotto. Se li sostituisci, il loro contenuto attuale andrà perso.</translation>

@@ -8,6 +8,11 @@
         <translation>既存のファイルを置き換えますか？</translation>
     </message>
     <message>
+        <source>Items that exist already: %1 of %2</source>
+        <extracomment>Numbers of files and folders.</extracomment>
+        <translation>既に存在する項目：%2 個中 %1 個</translation>
+    </message>
+    <message>
         <source>The folder “%@” already contains the items below. If you replace them, their current contents are lost.</source>
         <extracomment>%@ is the name of a folder.</extracomment>
         <translation>フォルダ「%@」には、以下の項目がすでにあります。置き換えると、現在の内容は失われます。</translation>

@@ -8,6 +8,11 @@
         <translation>Ersätta befintliga filer?</translation>
     </message>
     <message>
+        <source>Items that exist already: %1 of %2</source>
+        <extracomment>Numbers of files and folders.</extracomment>
+        <translation>Objekt som redan finns: %1 av %2</translation>
+    </message>
+    <message>
         <source>The folder “%@” already contains the items below. If you replace them, their current contents are lost.</source>
         <extracomment>%@ is the name of a folder.</extracomment>
         <translation>Mappen ”%@” innehåller redan objekten nedan. Om du ersätter dem går deras nuvarande innehåll förlorat.</translation>
