@@ -2,7 +2,6 @@
 
 #include <OrvaneExportKit/platform/ArchivedClass.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
-#include <OrvaneExportKit/platform/KeyPaths.h>
 #include <OrvaneExportKit/windowing/ArchivedViews.h>
 #include <OrvaneExportKit/windowing/Binding.h>
 #include <OrvaneExportKit/windowing/EventGuard.h>
@@ -14,6 +13,9 @@
 #include <QtGui/QHelpEvent>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QToolTip>
 
 #include <array>
@@ -82,8 +84,20 @@ Q_COREAPP_STARTUP_FUNCTION(registerClass)
 
 } // namespace
 
-KZFontNameTextField::KZFontNameTextField(QWidget *parent) : TextField(parent)
+KZFontNameTextField::KZFontNameTextField(QWidget *parent)
+    : TextField(parent), m_missingWord(new QLabel(this)), m_panelButton(new QToolButton(this))
 {
+    m_missingWord->setObjectName(u"missingWord"_s);
+    m_missingWord->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_missingWord->setAlignment(Qt::AlignCenter);
+    m_missingWord->hide();
+    m_panelButton->setObjectName(u"fontPanelButton"_s);
+    m_panelButton->setText(u"\u2026"_s);
+    m_panelButton->setAutoRaise(true);
+    m_panelButton->setFocusPolicy(Qt::NoFocus); // the space key opens the panel
+    m_panelButton->setCursor(Qt::ArrowCursor);
+    connect(m_panelButton, &QToolButton::clicked, this, [this] { guardedAction(*this, [this] { openFontPanel(); }); });
+    setTexts();
     setSelectedFontAttributes({});
     setSelectedFontName(windowing::Font::fontName(windowing::Font::userFontOfSize(double(firstSize))));
     setSelectedFontSize(firstSize);
@@ -162,6 +176,36 @@ void KZFontNameTextField::setFontNameWithFont(const std::optional<QFont> &font)
     text.replaceCharacters({0, text.length()}, string);
     text.addAttributes(attributesOrNone(), {0, text.length()});
     setAttributedStringValue(text);
+    const QFont shown = font.value_or(windowing::Font::fontWithName(m_selectedFontName, double(firstSize)));
+    m_isMissing = (font || !m_selectedFontName.isEmpty()) && !windowing::Font::isInstalled(shown);
+    layOutParts();
+}
+
+void KZFontNameTextField::setTexts()
+{
+    m_panelButton->setAccessibleName(tr("Choose a font"));
+    m_panelButton->setToolTip(m_panelButton->accessibleName());
+    m_missingWord->setText(tr("not installed"));
+    layOutParts();
+}
+
+/// Puts button and word behind the text, inside the frame. The word gives way where it leaves the text no room.
+void KZFontNameTextField::layOutParts()
+{
+    constexpr int frame = 3;
+    constexpr int fewestLetters = 8;
+    const QRect inside = rect().adjusted(frame, frame, -frame, -frame);
+    const int buttonWidth = m_panelButton->sizeHint().width();
+    const int wordWidth = m_missingWord->sizeHint().width() + 4 * frame;
+    const int room = inside.width() - buttonWidth - fewestLetters * fontMetrics().averageCharWidth();
+    const bool hasWord = m_isMissing && wordWidth <= room;
+    const QRect button(inside.right() + 1 - buttonWidth, inside.top(), buttonWidth, inside.height());
+    const QRect word(button.left() - wordWidth, inside.top(), wordWidth, inside.height());
+    m_panelButton->setGeometry(QStyle::visualRect(layoutDirection(), rect(), button));
+    m_missingWord->setGeometry(QStyle::visualRect(layoutDirection(), rect(), word));
+    m_missingWord->setVisible(hasWord);
+    const int taken = buttonWidth + (hasWord ? wordWidth : 0);
+    isRightToLeft() ? setTextMargins(taken, 0, 0, 0) : setTextMargins(0, 0, taken, 0);
 }
 
 void KZFontNameTextField::awakeFromNib()
@@ -204,11 +248,11 @@ void KZFontNameTextField::changeDocumentBackgroundColor(windowing::FontPanel *se
 /// The model comes first: who observes it sees the new value while the field still shows the old one.
 void KZFontNameTextField::takeAttributes(const QVariantMap &attributes)
 {
-    const auto info = windowing::infoForBinding(this, u"selectedFontAttributes"_s);
-    if (info && info->observedObject != nullptr) {
-        platform::setValueForKeyPath(info->observedObject, attributes, info->observedKeyPath);
+    if (windowing::Binding *binding = windowing::bindingOf(this, u"selectedFontAttributes"_s)) {
+        binding->storeUntransformed(attributes);
+    } else {
+        setSelectedFontAttributes(attributes);
     }
-    setSelectedFontAttributes(attributes);
 }
 
 void KZFontNameTextField::showInFontPanel() const
@@ -228,7 +272,8 @@ void KZFontNameTextField::openFontPanel()
 void KZFontNameTextField::showHelp(const QHelpEvent &help)
 {
     const QString hint = tr("Double-click or press Space to choose a font");
-    QToolTip::showText(help.globalPos(), text() + u'\n' + hint, this);
+    const QString missing = m_isMissing ? tr("This font is not installed.") + u'\n' : QString();
+    QToolTip::showText(help.globalPos(), text() + u'\n' + missing + hint, this);
 }
 
 bool KZFontNameTextField::event(QEvent *event)
@@ -243,18 +288,33 @@ bool KZFontNameTextField::event(QEvent *event)
 void KZFontNameTextField::changeEvent(QEvent *event)
 {
     TextField::changeEvent(event);
-    const bool changesLook = event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange;
-    if (changesLook && m_fieldAttributes) {
-        guardedDisplay(*this, [this] {
-            awakeFromNib();
-            setFontNameWithFont({});
-        });
-    }
+    guardedDisplay(*this, [this, event] { followChange(*event); });
 }
 
-void KZFontNameTextField::focusInEvent(QFocusEvent *event)
+void KZFontNameTextField::followChange(const QEvent &event)
 {
-    TextField::focusInEvent(event);
+    const bool changesLook = event.type() == QEvent::PaletteChange || event.type() == QEvent::FontChange;
+    if (changesLook && m_fieldAttributes) {
+        awakeFromNib();
+        setFontNameWithFont({});
+    }
+    if (event.type() == QEvent::LanguageChange) {
+        setTexts();
+    }
+    layOutParts();
+}
+
+void KZFontNameTextField::resizeEvent(QResizeEvent *event)
+{
+    TextField::resizeEvent(event);
+    guardedDisplay(*this, [this] { layOutParts(); });
+}
+
+/// Nothing is selected, whatever brings the focus: that would cover the chosen attributes.
+void KZFontNameTextField::focusInEvent(QFocusEvent * /*event*/)
+{
+    QFocusEvent plain(QEvent::FocusIn, Qt::OtherFocusReason);
+    TextField::focusInEvent(&plain);
     if (windowing::FontPanel::sharedFontPanelExists()) {
         guardedAction(*this, [this] { showInFontPanel(); });
     }

@@ -13,13 +13,16 @@
 #include <optional>
 
 class QHelpEvent;
+class QLabel;
+class QToolButton;
 
 namespace windowing {
 class FontPanel;
 }
 
 /// A field of a settings panel that shows a font by name and size, as in "Palatino-Roman, 12pt", and lets the user
-/// choose another in the font panel: a double click or the space key opens it.
+/// choose another in the font panel: the button in the field, a double click or the space key opens it. Where the font
+/// is not installed, a word behind the text says so.
 ///
 /// The text is drawn with the chosen attributes: colours, lines. Sizes are points, shown without decimals, a half
 /// rounded to even: 12.5 shows 12. Without a name the text begins with "(null)".
@@ -27,6 +30,9 @@ class FontPanel;
 /// What the user changes about the font goes to the field's target, which sets name and size; what the user changes
 /// about attributes the field sets itself, and before that in what its `selectedFontAttributes` are bound to, past any
 /// transformer.
+///
+/// `changeFont` and its neighbours throw where the program calls them. Changes in the font panel throw nothing: the
+/// error goes to `platform::alertError`, and the field shows what its values are.
 ///
 ///     fontField->setTarget(this);
 ///     fontField->setAction("takeFont");
@@ -88,7 +94,7 @@ public:
     void setAction(const QByteArray &function) { m_action = function; }
 
     /// Whether the field takes the focus, so that the font panel's changes come here: always. Nothing begins to be
-    /// edited with it.
+    /// edited with it, and nothing is selected.
     bool becomeFirstResponder() const { return true; }
 
     /// Hands the change to the target; nothing happens without one. Throws `platform::UnrecognisedOperationException`
@@ -106,6 +112,7 @@ protected:
     bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 
@@ -114,6 +121,9 @@ private:
     void editSelectedFontSize(double size) { setSelectedFontSize(static_cast<float>(size)); }
     QVariantMap attributesOrNone() const { return m_selectedFontAttributes.toMap(); }
     void takeAttributes(const QVariantMap &attributes);
+    void setTexts();
+    void layOutParts();
+    void followChange(const QEvent &event);
     void showHelp(const QHelpEvent &help);
     void showInFontPanel() const;
     void openFontPanel();
@@ -124,4 +134,7 @@ private:
     float m_selectedFontSize = 0.0F;
     QPointer<QObject> m_target;
     QByteArray m_action;
+    bool m_isMissing = false; ///< the font that is shown is not installed
+    QLabel *m_missingWord;
+    QToolButton *m_panelButton;
 };

@@ -4,7 +4,10 @@
 #include <QtGui/QFontDatabase>
 #include <QtGui/QFontInfo>
 
+#include <algorithm>
 #include <array>
+#include <cstdlib>
+#include <tuple>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -77,6 +80,17 @@ QString installed(const QStringList &names, const QString &nameInDocuments)
     return {};
 }
 
+/// How far a style of a family looks from a font, the weightiest difference first. Of styles that differ in width alone
+/// ("Bold", "Condensed Bold") the plain one has the shorter name.
+std::tuple<bool, int, qsizetype> distance(const QString &family, const QString &style, const QFont &font)
+{
+    const auto isSlanted = [](const QFont &slanted) {
+        return slanted.style() != QFont::StyleNormal;
+    };
+    const QFont styled = QFontDatabase::font(family, style, 1);
+    return {isSlanted(styled) != isSlanted(font), std::abs(styled.weight() - font.weight()), style.size()};
+}
+
 /// A font that is not installed, or not in this style.
 QFont describedFont(const QString &family, const QString &style)
 {
@@ -129,6 +143,25 @@ QFont Font::fontWithName(const QString &name, double size)
                                  : QFontDatabase::font(family, style, 1);
     font.setPointSizeF(size);
     return font;
+}
+
+bool Font::isInstalled(const QFont &font)
+{
+    const QString family = font.family();
+    const QStringList families = QFontDatabase::families();
+    return std::any_of(families.begin(), families.end(), [&family](const QString &installedFamily) {
+        return installedFamily.compare(family, Qt::CaseInsensitive) == 0 ||
+               installedFamily.startsWith(family + " ["_L1, Qt::CaseInsensitive); // one of several makers
+    });
+}
+
+QString Font::closestStyle(const QString &family, const QFont &font)
+{
+    const QStringList styles = QFontDatabase::styles(family);
+    const auto closest = std::min_element(styles.begin(), styles.end(), [&](const QString &a, const QString &b) {
+        return distance(family, a, font) < distance(family, b, font);
+    });
+    return closest == styles.end() ? QString() : *closest;
 }
 
 QFont Font::userFontOfSize(double size)

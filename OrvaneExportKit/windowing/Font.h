@@ -27,6 +27,16 @@ struct ORVANE_KIT_EXPORT Font {
     ///     Font::fontWithName(u"Helvetica-BoldOblique"_s, 12.0);
     static QFont fontWithName(const QString &name, double size);
 
+    /// Whether the font's family is installed under its own name. Where it is not, another family stands in for it on
+    /// the screen.
+    static bool isInstalled(const QFont &font);
+
+    /// The style of an installed family that comes closest to a font: one that slants as it does, then the nearest
+    /// weight. Empty for a family without styles.
+    ///
+    ///     Font::closestStyle(u"DejaVu Sans"_s, Font::fontWithName(u"Times-Bold"_s, 12.0));   // "Bold"
+    static QString closestStyle(const QString &family, const QFont &font);
+
     /// The font that the user's texts have at first: the system's general font, in points above 0.
     static QFont userFontOfSize(double size);
 };

@@ -2,6 +2,8 @@
 
 #include <OrvaneExportKit/windowing/EventGuard.h>
 #include <OrvaneExportKit/windowing/Font.h>
+#include <OrvaneExportKit/windowing/MainWindow.h>
+#include <OrvaneExportKit/windowing/MessageLabel.h>
 #include <OrvaneExportKit/windowing/TextAttributes.h>
 #include <OrvaneExportKit/windowing/TextField.h>
 
@@ -13,6 +15,8 @@
 #include <QtGui/QIcon>
 #include <QtGui/QPainter>
 #include <QtGui/QPixmap>
+#include <QtGui/QShortcut>
+#include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QColorDialog>
@@ -24,6 +28,8 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -80,13 +86,15 @@ FontPanel::FontPanel()
     : QDialog(nullptr, Qt::Tool | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
       m_form(new QFormLayout),
       m_sample(new TextField(this)),
+      m_missingNote(new MessageLabel(this)),
       m_family(new QFontComboBox(this)),
       m_style(new QComboBox(this)),
       m_size(new QDoubleSpinBox(this)),
       m_underline(new QCheckBox(this)),
       m_strikethrough(new QCheckBox(this)),
       m_textColor{new QCheckBox(this), new QPushButton(this), {}},
-      m_background{new QCheckBox(this), new QPushButton(this), {}}
+      m_background{new QCheckBox(this), new QPushButton(this), {}},
+      m_undo(new QPushButton(this))
 {
     setAttribute(Qt::WA_QuitOnClose, false);
     m_sample->setEditable(false);
@@ -96,6 +104,8 @@ FontPanel::FontPanel()
     m_size->setRange(smallestSize, largestSize);
     m_size->setDecimals(1);
     m_size->setKeyboardTracking(false);
+    m_missingNote->setWordWrap(true);
+    m_undo->setAutoDefault(false);
     layOut();
     setTexts();
     setSelectedFont(Font::userFontOfSize(12.0));
@@ -113,7 +123,8 @@ void FontPanel::connectControls()
         connect(control, changed, this, [this, work] { guardedAction(*this, work); });
     };
     onChange(m_family, &QComboBox::activated, [this] {
-        showStyles(m_family->currentFont());
+        m_missingFont.reset();
+        showStyles(m_shownFont);
         fontChanged(FontChange::FamilyAndStyle);
     });
     onChange(m_style, &QComboBox::activated, [this] { fontChanged(FontChange::FamilyAndStyle); });
@@ -127,6 +138,8 @@ void FontPanel::connectControls()
              [this] { chooseColor(m_textColor, &FontPanel::textColorChanged); });
     onChange(m_background.button, &QPushButton::clicked,
              [this] { chooseColor(m_background, &FontPanel::backgroundColorChanged); });
+    onChange(m_undo, &QPushButton::clicked, [this] { undo(); });
+    onChange(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, [this] { undo(); });
 }
 
 /// A dialog that goes while it has the focus moves the focus once more, when it is a font panel no longer.
@@ -154,8 +167,10 @@ void FontPanel::layOut()
     auto *layout = new QVBoxLayout(this);
     layout->setSizeConstraint(QLayout::SetMinimumSize);
     layout->addWidget(m_sample);
+    layout->addWidget(m_missingNote);
     layout->addLayout(m_form);
     layout->addStretch();
+    layout->addWidget(m_undo, 0, Qt::AlignTrailing);
 }
 
 void FontPanel::setTexts()
@@ -176,6 +191,9 @@ void FontPanel::setTexts()
     m_textColor.button->setAccessibleName(tr("Choose the text color"));
     m_background.isSet->setText(tr("&Background:"));
     m_background.button->setAccessibleName(tr("Choose the background color"));
+    m_undo->setText(tr("U&ndo"));
+    m_undo->setToolTip(tr("Takes back the last change"));
+    showMissingFont();
 }
 
 void FontPanel::changeEvent(QEvent *event)
@@ -192,27 +210,51 @@ void FontPanel::orderFront()
     if (modal != nullptr && modal != parentWidget() && !isAncestorOf(modal)) {
         setParent(modal, windowFlags());
     }
+    rememberFocus(QApplication::focusWidget());
+    stayAboveWindow();
     show();
     raise();
     activateWindow();
 }
 
-/// A control outside the panel and outside the dialogs that the panel opens.
+/// Keeps the panel above the window that it serves, where it is no part of a modal one.
+void FontPanel::stayAboveWindow()
+{
+    const QWidget *served = m_lastFocused != nullptr ? m_lastFocused->window() : mainWindow();
+    if (parentWidget() != nullptr || served == nullptr || served == this) {
+        return;
+    }
+    winId(); // makes the window handle
+    if (windowHandle()->transientParent() != served->windowHandle()) {
+        hide(); // window managers look at it when a window is shown
+        windowHandle()->setTransientParent(served->windowHandle());
+    }
+}
+
+/// A control outside the panel and outside the dialogs that the panel opens. A modal window that the panel is not part
+/// of, such as an alert, only interrupts.
 void FontPanel::rememberFocus(QWidget *widget)
 {
+    if (widget == nullptr || widget == m_lastFocused) {
+        return;
+    }
     for (const QWidget *outer = widget; outer != nullptr; outer = outer->parentWidget()) {
         if (outer == this) {
             return;
         }
     }
-    if (widget != nullptr) {
-        m_lastFocused = widget;
+    const QWidget *window = widget->window();
+    if (isVisible() && window->isModal() && !window->isAncestorOf(this)) {
+        return;
     }
+    m_lastFocused = widget;
+    forgetChanges();
 }
 
 QFont FontPanel::selectedFont() const
 {
-    QFont font = m_style->currentIndex() < 0
+    QFont font = m_missingFont ? *m_missingFont
+                 : m_style->currentIndex() < 0
                      ? QFont(m_family->currentFont().family())
                      : QFontDatabase::font(m_family->currentFont().family(), m_style->currentText(), 1);
     font.setPointSizeF(m_size->value());
@@ -221,16 +263,45 @@ QFont FontPanel::selectedFont() const
 
 void FontPanel::setSelectedFont(const QFont &font)
 {
-    const QSignalBlocker sizeBlocker(m_size);
-    const QSignalBlocker familyBlocker(m_family);
-    m_family->setCurrentFont(font);
-    m_size->setValue(Font::pointSize(font));
-    showStyles(font);
+    showFont(font);
     m_fontChange = FontChange::Everything;
+    forgetChanges();
+}
+
+void FontPanel::showFont(const QFont &font)
+{
+    const QSignalBlocker sizeBlocker(m_size);
+    m_size->setValue(Font::pointSize(font));
+    m_missingFont = Font::isInstalled(font) ? std::nullopt : std::optional(font);
+    if (m_missingFont) {
+        m_family->setCurrentIndex(-1);
+        m_family->setEditText(font.family());
+    } else {
+        m_family->setCurrentFont(font);
+    }
+    showStyles(font);
+    showMissingFont();
+    m_shownFont = selectedFont();
     showSample();
 }
 
+void FontPanel::showMissingFont()
+{
+    m_missingNote->setVisible(m_missingFont.has_value());
+    if (m_missingFont) {
+        m_missingNote->setText(
+            tr("The font “%1” is not installed. Another one stands in for it here.").arg(m_missingFont->family()));
+    }
+}
+
 void FontPanel::setSelectedAttributes(const QVariantMap &attributes)
+{
+    showAttributes(attributes);
+    m_attributeChange = {};
+    forgetChanges();
+}
+
+void FontPanel::showAttributes(const QVariantMap &attributes)
 {
     const QSignalBlocker underlineBlocker(m_underline);
     const QSignalBlocker strikethroughBlocker(m_strikethrough);
@@ -240,23 +311,27 @@ void FontPanel::setSelectedAttributes(const QVariantMap &attributes)
     m_background.color = palette().color(QPalette::Base);
     showColor(m_textColor, attributes.value(foregroundColorAttributeName));
     showColor(m_background, attributes.value(backgroundColorAttributeName));
-    m_attributeChange = {};
+    m_shownAttributes = attributes;
     showSample();
 }
 
-/// Lists the styles of the font's family and selects the one of the font.
+/// Lists the styles of the family and selects the one that the font has, or the closest one.
 void FontPanel::showStyles(const QFont &font)
 {
     const QSignalBlocker blocker(m_style);
-    const QStringList styles = QFontDatabase::styles(m_family->currentFont().family());
     m_style->clear();
+    m_style->setEnabled(!m_missingFont);
+    if (m_missingFont) {
+        return;
+    }
+    const QString family = m_family->currentFont().family();
+    const QStringList styles = QFontDatabase::styles(family);
     m_style->addItems(styles);
     const QString name = Font::fontName(font);
-    for (qsizetype i = 0; i < styles.size(); ++i) {
-        if (Font::fontName(QFontDatabase::font(font.family(), styles[i], 1)) == name) {
-            m_style->setCurrentIndex(static_cast<int>(i));
-        }
-    }
+    const auto same = std::find_if(styles.begin(), styles.end(), [&](const QString &style) {
+        return Font::fontName(QFontDatabase::font(family, style, 1)) == name;
+    });
+    m_style->setCurrentText(same != styles.end() ? *same : Font::closestStyle(family, font));
 }
 
 void FontPanel::showSample()
@@ -320,16 +395,58 @@ QColor FontPanel::color() const
 
 void FontPanel::fontChanged(FontChange change)
 {
+    m_changes.append({m_shownFont, {}});
+    m_shownFont = selectedFont();
     m_fontChange = change;
+    showMissingFont();
     showSample();
+    m_undo->setEnabled(true);
     sendToLastFocused("changeFont");
 }
 
 void FontPanel::attributeChanged(const QString &name, const QVariant &value)
 {
-    m_attributeChange = {name, value};
+    m_changes.append({std::nullopt, {name, m_shownAttributes.value(name)}});
+    m_undo->setEnabled(true);
+    sendAttribute({name, value});
+}
+
+void FontPanel::sendAttribute(const AttributeChange &change)
+{
+    if (change.value.isValid()) {
+        m_shownAttributes.insert(change.name, change.value);
+    } else {
+        m_shownAttributes.remove(change.name);
+    }
+    m_attributeChange = change;
     showSample();
-    sendToLastFocused("changeAttributes");
+    const bool isBackground = change.name == backgroundColorAttributeName && change.value.isValid();
+    sendToLastFocused(isBackground ? "changeDocumentBackgroundColor" : "changeAttributes");
+}
+
+void FontPanel::undo()
+{
+    if (m_changes.isEmpty()) {
+        return;
+    }
+    const Change last = m_changes.takeLast();
+    m_undo->setEnabled(!m_changes.isEmpty());
+    if (last.earlierFont) {
+        showFont(*last.earlierFont);
+        m_fontChange = FontChange::Everything;
+        sendToLastFocused("changeFont");
+        return;
+    }
+    QVariantMap attributes = m_shownAttributes;
+    attributes.insert(last.earlierAttribute.name, last.earlierAttribute.value);
+    showAttributes(attributes);
+    sendAttribute(last.earlierAttribute);
+}
+
+void FontPanel::forgetChanges()
+{
+    m_changes.clear();
+    m_undo->setEnabled(false);
 }
 
 void FontPanel::lineChanged(const QString &name, const QCheckBox &box)
@@ -345,12 +462,8 @@ void FontPanel::textColorChanged()
 
 void FontPanel::backgroundColorChanged()
 {
-    if (!m_background.isSet->isChecked()) {
-        attributeChanged(backgroundColorAttributeName, {});
-        return;
-    }
-    showSample();
-    sendToLastFocused("changeDocumentBackgroundColor");
+    attributeChanged(backgroundColorAttributeName,
+                     m_background.isSet->isChecked() ? QVariant(m_background.color) : QVariant());
 }
 
 /// Lets the user choose a colour, which then is set.

@@ -2,11 +2,14 @@
 
 #include <OrvaneExportKit/ExportMacros.h>
 
+#include <QtCore/QList>
 #include <QtCore/QPointer>
 #include <QtCore/QVariant>
 #include <QtGui/QColor>
 #include <QtGui/QFont>
 #include <QtWidgets/QDialog>
+
+#include <optional>
 
 class QCheckBox;
 class QComboBox;
@@ -18,6 +21,7 @@ class QPushButton;
 
 namespace windowing {
 
+class MessageLabel;
 class TextField;
 
 /// The panel in which users choose fonts, colours and lines of text. There is one for the whole application; it leaves
@@ -29,6 +33,9 @@ class TextField;
 ///     void changeFont(windowing::FontPanel *sender);                      // family, style, size
 ///     void changeAttributes(windowing::FontPanel *sender);                // text colour, lines, no background
 ///     void changeDocumentBackgroundColor(windowing::FontPanel *sender);   // a background colour
+///
+/// An error that such a function throws goes to `platform::alertError`. The user can take back the changes that were
+/// made since another control had the focus or other values were shown.
 ///
 /// The control then asks the panel to convert what it has:
 ///
@@ -45,13 +52,16 @@ public:
     static FontPanel &sharedFontPanel();
     static bool sharedFontPanelExists();
 
-    /// Shows the panel above the other windows, also where a modal one would keep it from the user.
+    /// Shows the panel above the window of that control, where it stays, also above a modal one, which would keep it
+    /// from the user otherwise.
     void orderFront();
 
     /// The font that the panel shows.
     QFont selectedFont() const;
 
-    /// Shows a font, which is no change by the user.
+    /// Shows a font, which is no change by the user. Of a family without a style of its name the closest one is shown;
+    /// a font that is not installed is shown by its name, as one that is missing, and stays what `selectedFont`
+    /// answers.
     void setSelectedFont(const QFont &font);
 
     /// Shows the colours and lines of attributes (`windowing/TextAttributes.h`), which is no change by the user.
@@ -90,12 +100,22 @@ private:
         QVariant value; ///< invalid for an attribute that was taken away
     };
 
+    /// What a change by the user replaced: a font or an attribute.
+    struct Change {
+        std::optional<QFont> earlierFont;
+        AttributeChange earlierAttribute;
+    };
+
     FontPanel();
     void layOut();
     void connectControls();
     void setTexts();
     void rememberFocus(QWidget *widget);
+    void stayAboveWindow();
 
+    void showFont(const QFont &font);
+    void showMissingFont();
+    void showAttributes(const QVariantMap &attributes);
     void showStyles(const QFont &font);
     void showSample();
     static void showColor(ColorChoice &choice, const QVariant &color);
@@ -103,6 +123,9 @@ private:
 
     void fontChanged(FontChange change);
     void attributeChanged(const QString &name, const QVariant &value);
+    void sendAttribute(const AttributeChange &change);
+    void undo();
+    void forgetChanges();
     void lineChanged(const QString &name, const QCheckBox &box);
     void textColorChanged();
     void backgroundColorChanged();
@@ -112,9 +135,14 @@ private:
     QPointer<QWidget> m_lastFocused;
     FontChange m_fontChange = FontChange::Everything;
     AttributeChange m_attributeChange;
+    QFont m_shownFont;
+    QVariantMap m_shownAttributes;
+    std::optional<QFont> m_missingFont; ///< the one that is shown, where it is not installed
+    QList<Change> m_changes;            ///< those that can be taken back, the latest last
 
     QFormLayout *m_form;
     TextField *m_sample;
+    MessageLabel *m_missingNote;
     QFontComboBox *m_family;
     QComboBox *m_style;
     QDoubleSpinBox *m_size;
@@ -122,6 +150,7 @@ private:
     QCheckBox *m_strikethrough;
     ColorChoice m_textColor;
     ColorChoice m_background;
+    QPushButton *m_undo;
 };
 
 } // namespace windowing

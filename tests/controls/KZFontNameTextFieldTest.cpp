@@ -18,6 +18,8 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QToolTip>
 
 #include <limits>
@@ -282,24 +284,66 @@ TEST_F(FontFieldChange, OfTheBackgroundToNoColourIsRefusedAndChangesNothing)
     EXPECT_EQ(field.selectedFontAttributes().toMap(), (QVariantMap{{u"NSUnderline"_s, 1}}));
 }
 
-TEST_F(FontFieldChange, OfTheBackgroundGoesToTheModelBeforeTheField)
+/// What observers that were connected before and after the binding see in the field and in the model.
+class FontFieldObservers : public FontFieldChange
 {
-    support::PanelController controller;
-    const QVariantMap first{{u"NSUnderline"_s, 1}};
-    controller.settings()->setValue(first, u"style"_s);
-    new windowing::Binding(&field, u"selectedFontAttributes"_s, &controller, u"settings.style"_s);
-    ASSERT_EQ(field.selectedFontAttributes().toMap(), first);
-    // Once the value is stored, the binding shows it; until then the field has the old one.
-    QVariantMap seenInField;
-    QObject::connect(controller.settings(), &platform::KeyValueCoding::willChangeValueForKey, &field,
-                     [&] { seenInField = field.selectedFontAttributes().toMap(); });
+protected:
+    void SetUp() override
+    {
+        FontFieldChange::SetUp();
+        controller.settings()->setValue(first, u"style"_s);
+        observe();
+        new windowing::Binding(&field, u"selectedFontAttributes"_s, &controller, u"settings.style"_s);
+        observe();
+    }
 
+    void expectToHaveSeen(const QVariantMap &expected)
+    {
+        EXPECT_EQ(seenInModel, (QList<QVariantMap>{expected, expected}));
+        EXPECT_EQ(seenInField, (QList<QVariantMap>{first, first}));
+        EXPECT_EQ(field.selectedFontAttributes().toMap(), expected);
+    }
+
+    const QVariantMap first{{u"NSUnderline"_s, 1}};
+    support::PanelController controller;
+    QList<QVariantMap> seenInModel;
+    QList<QVariantMap> seenInField;
+
+private:
+    void observe()
+    {
+        QObject::connect(controller.settings(), &platform::KeyValueCoding::didChangeValueForKey, &field, [this] {
+            seenInModel.append(controller.settings()->objectForKey(u"style"_s).toMap());
+            seenInField.append(field.selectedFontAttributes().toMap());
+        });
+    }
+};
+
+TEST_F(FontFieldObservers, SeeANewBackgroundInTheModelWhileTheFieldShowsTheOldOne)
+{
     panel.setSelectedAttributes({{u"NSBackgroundColor"_s, QColor(Qt::yellow)}});
     field.changeDocumentBackgroundColor(&panel);
-    const QVariantMap expected{{u"NSUnderline"_s, 1}, {u"NSBackgroundColor"_s, QColor(Qt::yellow)}};
-    EXPECT_EQ(seenInField, first);
-    EXPECT_EQ(platform::valueForKeyPath(&controller, u"settings.style"_s).toMap(), expected);
-    EXPECT_EQ(field.selectedFontAttributes().toMap(), expected);
+    expectToHaveSeen({{u"NSUnderline"_s, 1}, {u"NSBackgroundColor"_s, QColor(Qt::yellow)}});
+}
+
+TEST_F(FontFieldObservers, SeeNewAttributesInTheModelWhileTheFieldShowsTheOldOnes)
+{
+    checkBox(u"Stri&kethrough"_s)->click();
+    field.changeAttributes(&panel);
+    expectToHaveSeen({{u"NSUnderline"_s, 1}, {u"NSStrikethrough"_s, 1}});
+}
+
+TEST_F(FontFieldObservers, CanCorrectTheNewAttributes)
+{
+    const QVariantMap corrected{{u"NSUnderline"_s, 2}};
+    QObject::connect(controller.settings(), &platform::KeyValueCoding::didChangeValueForKey, &field, [&] {
+        if (controller.settings()->objectForKey(u"style"_s) != QVariant(corrected)) {
+            controller.settings()->setValue(corrected, u"style"_s);
+        }
+    });
+    checkBox(u"Stri&kethrough"_s)->click();
+    field.changeAttributes(&panel);
+    EXPECT_EQ(field.selectedFontAttributes().toMap(), corrected);
 }
 
 /// Stores nothing but empty maps.
@@ -362,6 +406,53 @@ TEST_F(FontFieldInWindow, OpensTheFontPanelByKeyAndByMouse)
     panel.close();
     QTest::mouseDClick(shownField, Qt::LeftButton);
     EXPECT_TRUE(panel.isVisible());
+}
+
+TEST_F(FontFieldInWindow, OpensTheFontPanelByItsButton)
+{
+    auto *button = shownField->findChild<QToolButton *>();
+    ASSERT_NE(button, nullptr);
+    EXPECT_TRUE(shownField->rect().contains(button->geometry()));
+    EXPECT_FALSE(button->accessibleName().isEmpty());
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_EQ(Font::fontName(panel.selectedFont()), u"DejaVuSerif-Bold"_s);
+}
+
+TEST_F(FontFieldInWindow, SelectsNothingWhateverBringsTheFocus)
+{
+    for (const Qt::FocusReason reason :
+         {Qt::TabFocusReason, Qt::BacktabFocusReason, Qt::ShortcutFocusReason, Qt::MouseFocusReason}) {
+        shownField->clearFocus();
+        shownField->setFocus(reason);
+        EXPECT_TRUE(shownField->hasFocus());
+        EXPECT_FALSE(shownField->hasSelectedText()) << reason;
+    }
+}
+
+TEST_F(FontFieldInWindow, SaysInAWordThatTheFontIsNotInstalled)
+{
+    const auto *word = shownField->findChild<QLabel *>();
+    ASSERT_NE(word, nullptr);
+    shownField->resize(400, 26);
+    EXPECT_FALSE(word->isVisible());
+    shownField->setSelectedFontName(u"NoSuchFont-Bold"_s);
+    EXPECT_TRUE(word->isVisible());
+    EXPECT_EQ(word->text(), u"not installed"_s);
+    EXPECT_EQ(shownField->text(), u"NoSuchFont-Bold, 17pt"_s);
+    EXPECT_TRUE(shownField->rect().contains(word->geometry()));
+
+    shownField->setLayoutDirection(Qt::RightToLeft);
+    const QRect button = shownField->findChild<QToolButton *>()->geometry();
+    EXPECT_LT(button.right(), word->geometry().left());
+    shownField->resize(120, 26); // there is room for the name alone
+    EXPECT_FALSE(word->isVisible());
+
+    shownField->resize(400, 26);
+    shownField->setFontNameWithFont(Font::fontWithName(u"DejaVuSans"_s, 12.0));
+    EXPECT_FALSE(word->isVisible());
+    shownField->setSelectedFontName({});
+    EXPECT_FALSE(word->isVisible());
 }
 
 TEST_F(FontFieldInWindow, TellsItsWholeTextAndItsUseInAToolTip)

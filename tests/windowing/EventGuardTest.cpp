@@ -1,6 +1,11 @@
 #include <OrvaneExportKit/controls/FontTarget.h>
+#include <OrvaneExportKit/controls/KZContentView.h>
 #include <OrvaneExportKit/controls/KZFontNameTextField.h>
+#include <OrvaneExportKit/platform/NotificationCenter.h>
+#include <OrvaneExportKit/run/KZExportProgress.h>
+#include <OrvaneExportKit/settings/SettingsKeys.h>
 #include <OrvaneExportKit/windowing/Binding.h>
+#include <OrvaneExportKit/windowing/DictionaryTable.h>
 #include <OrvaneExportKit/windowing/FontPanel.h>
 #include <tests/support/Printers.h>
 #include <tests/support/RecordingAlert.h>
@@ -10,6 +15,8 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDoubleSpinBox>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
 #include <functional>
@@ -133,6 +140,111 @@ TEST_F(ErrorInTheEventLoop, IsToldOnceUntilTheUserHasAnswered)
     QTest::keyClick(size, Qt::Key_Up);
     QCoreApplication::processEvents();
     EXPECT_EQ(alert.errors.size(), 2); // the user tries again
+}
+
+TEST(ErrorsInShowing, AreToldOnceHoweverOftenAControlIsPaintedAndAgainForNewContent)
+{
+    support::RecordingAlert alert;
+    windowing::DictionaryTable table;
+    table.setKeys({u"name"_s, u"bold"_s});
+    table.setBooleanKeys({u"bold"_s});
+    const QVariantMap unreadable{{u"name"_s, u"Heading"_s}, {u"bold"_s, QVariantList{1}}};
+    table.setContent({unreadable});
+    table.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&table));
+    for (int i = 0; i < 3; ++i) {
+        table.grab();
+        QCoreApplication::processEvents();
+    }
+    ASSERT_EQ(alert.errors.size(), 1) << alert.errors.join(u'\n').toStdString();
+    table.setContent({unreadable, unreadable});
+    table.grab();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(alert.errors.size(), 2);
+}
+
+/// A model whose setter fails in a way of its own.
+class FailingModel : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString title READ title WRITE setTitle)
+
+public:
+    static QString title() { return u"Draft"_s; }
+    static void setTitle(const QString & /*title*/) { throw std::runtime_error("no ink"); }
+};
+
+class FailingEdit : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        auto *layout = new QVBoxLayout(&window);
+        layout->addWidget(view);
+        view->setLayout(new QVBoxLayout);
+        view->layout()->addWidget(field);
+        new windowing::Binding(field, u"text"_s, &model, u"title"_s);
+        window.show();
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, u"Final"_s);
+    }
+
+    void expectOneError()
+    {
+        QCoreApplication::processEvents();
+        EXPECT_EQ(alert.errors, QStringList{u"QLineEdit: no ink"_s});
+    }
+
+    support::RecordingAlert alert;
+    FailingModel model;
+    QWidget window;
+    QPointer<KZContentView> view = new KZContentView;
+    QPointer<QLineEdit> field = new QLineEdit;
+};
+
+TEST_F(FailingEdit, IsToldAndShowsTheStoredValueAgain)
+{
+    QTest::keyClick(field, Qt::Key_Return);
+    expectOneError();
+    EXPECT_EQ(field->text(), u"Draft"_s);
+}
+
+TEST_F(FailingEdit, ThrowsWhereTheProgramCommits)
+{
+    EXPECT_THROW(windowing::bindingOf(field, u"text"_s)->commit(), std::runtime_error);
+    EXPECT_EQ(field->text(), u"Draft"_s);
+}
+
+TEST_F(FailingEdit, DoesNotKeepAContentViewInItsWindow)
+{
+    view->removeFromSuperview();
+    expectOneError();
+    EXPECT_EQ(view->parentWidget(), nullptr);
+    delete view;
+}
+
+TEST_F(FailingEdit, DoesNotStopAContentViewFromBeingDestroyed)
+{
+    delete view;
+    expectOneError();
+}
+
+TEST(ErrorsOfObservers, OfTheAbortButtonAreTold)
+{
+    support::RecordingAlert alert;
+    KZExportProgress progress(nullptr, 3);
+    const auto observation = platform::NotificationCenter::defaultCenter().addObserver(
+        KZAbortExportNotification, &progress, [](const auto &) { throw std::runtime_error("no brake"); });
+    progress.showSheet();
+    progress.progressPanel()->findChild<QPushButton *>(u"abortButton"_s)->click();
+    progress.setDocumentName(u"Chapter 1"_s); // a pass of events
+    EXPECT_EQ(alert.errors.size(), 1);
+    EXPECT_TRUE(alert.errors.value(0).endsWith(u": no brake"));
+    EXPECT_THROW(progress.abortExport(nullptr), std::runtime_error);
+    progress.hideSheet();
 }
 
 } // namespace

@@ -1,12 +1,14 @@
 #include <OrvaneExportKit/windowing/FontPanel.h>
 
 #include <OrvaneExportKit/windowing/Font.h>
+#include <OrvaneExportKit/windowing/MessageLabel.h>
 #include <tests/support/Printers.h>
 
 #include <gtest/gtest.h>
 
 #include <QtGui/QAccessible>
 #include <QtGui/QFontDatabase>
+#include <QtGui/QWindow>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
@@ -14,9 +16,11 @@
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QFontComboBox>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
@@ -197,6 +201,116 @@ TEST_F(FontPanelTest, SendsTheBackgroundAsThatOfTheDocument)
     button<QCheckBox>(u"&Background:"_s)->click();
     EXPECT_EQ(editor->attributes, (QVariantMap{{u"kept"_s, true}}));
     EXPECT_FALSE(panel->color().isValid());
+}
+
+TEST_F(FontPanelTest, ChoosesTheClosestStyleWhereAFamilyLacksTheOneThatIsAskedFor)
+{
+    const auto styleOf = [this](const QString &name) {
+        panel->setSelectedFont(Font::fontWithName(name, 12.0));
+        return Font::fontName(panel->selectedFont());
+    };
+    EXPECT_EQ(styleOf(u"DejaVuSerif-Black"_s), u"DejaVuSerif-Bold"_s);
+    EXPECT_EQ(styleOf(u"DejaVuSerif-BlackItalic"_s), u"DejaVuSerif-BoldItalic"_s);
+    EXPECT_EQ(styleOf(u"DejaVuSerif-Medium"_s), u"DejaVuSerif"_s);
+    EXPECT_EQ(styleOf(u"DejaVuSerif-Oblique"_s), u"DejaVuSerif-Italic"_s);
+}
+
+TEST_F(FontPanelTest, ShowsAnUprightStyleOfEveryFamilyThatHasOne)
+{
+    const auto isUpright = [](const QFont &font) {
+        return font.style() == QFont::StyleNormal;
+    };
+    const QStringList families = QFontDatabase::families();
+    for (const QString &family : families) {
+        const QStringList styles = QFontDatabase::styles(family);
+        const bool hasUpright = std::any_of(styles.begin(), styles.end(), [&](const QString &style) {
+            return isUpright(QFontDatabase::font(family, style, 1));
+        });
+        panel->setSelectedFont(QFont(family));
+        EXPECT_EQ(isUpright(panel->selectedFont()), hasUpright) << family.toStdString();
+    }
+}
+
+TEST_F(FontPanelTest, KeepsWeightAndSlantWhenTheFamilyChanges)
+{
+    auto *family = panel->findChild<QFontComboBox *>();
+    panel->setSelectedFont(Font::fontWithName(u"DejaVuSerif-BoldItalic"_s, 12.0));
+    family->setCurrentFont(QFont(u"DejaVu Sans Mono"_s));
+    Q_EMIT family->activated(family->currentIndex());
+    EXPECT_EQ(Font::fontName(panel->selectedFont()), u"DejaVuSansMono-BoldOblique"_s);
+}
+
+TEST_F(FontPanelTest, SaysThatAFontIsNotInstalledAndKeepsIt)
+{
+    const auto *note = panel->findChild<windowing::MessageLabel *>();
+    const auto *family = panel->findChild<QFontComboBox *>();
+    EXPECT_FALSE(note->isVisible());
+    panel->setSelectedFont(Font::fontWithName(u"NoSuchFont-BoldItalic"_s, 17.0));
+    EXPECT_TRUE(note->isVisible());
+    EXPECT_TRUE(note->text().contains(u"NoSuchFont"));
+    EXPECT_EQ(family->currentText(), u"NoSuchFont"_s);
+    EXPECT_LT(family->currentIndex(), 0);
+    EXPECT_EQ(Font::fontName(panel->selectedFont()), u"NoSuchFont-BoldItalic"_s);
+
+    panel->setSelectedFont(Font::fontWithName(u"DejaVuSans"_s, 17.0));
+    EXPECT_FALSE(note->isVisible());
+    EXPECT_EQ(family->currentText(), u"DejaVu Sans"_s);
+}
+
+TEST_F(FontPanelTest, TakesChangesBackOneAfterTheOther)
+{
+    auto *undo = button<QPushButton>(u"U&ndo"_s);
+    ASSERT_NE(undo, nullptr);
+    editor->font = Font::fontWithName(u"NoSuchFont-Bold"_s, 20.0);
+    panel->setSelectedFont(editor->font);
+    panel->setSelectedAttributes({{u"NSBackgroundColor"_s, QColor(Qt::yellow)}});
+    EXPECT_FALSE(undo->isEnabled());
+
+    auto *family = panel->findChild<QFontComboBox *>();
+    family->setCurrentFont(QFont(u"DejaVu Sans"_s));
+    Q_EMIT family->activated(family->currentIndex());
+    panel->findChild<QDoubleSpinBox *>()->setValue(30.0);
+    button<QCheckBox>(u"&Underline"_s)->click();
+    button<QCheckBox>(u"&Background:"_s)->click();
+    EXPECT_EQ(Font::fontName(editor->font), u"DejaVuSans-Bold"_s);
+    EXPECT_EQ(editor->font.pointSizeF(), 30.0);
+    EXPECT_EQ(editor->attributes.value(u"NSUnderline"_s), QVariant(1));
+
+    undo->click();
+    EXPECT_EQ(editor->background, QColor(Qt::yellow));
+    undo->click();
+    EXPECT_EQ(editor->attributes, (QVariantMap{{u"kept"_s, true}}));
+    undo->click();
+    EXPECT_EQ(editor->font.pointSizeF(), 20.0);
+    EXPECT_EQ(Font::fontName(editor->font), u"DejaVuSans-Bold"_s);
+    undo->click();
+    EXPECT_EQ(Font::fontName(editor->font), u"NoSuchFont-Bold"_s);
+    EXPECT_FALSE(undo->isEnabled());
+}
+
+TEST_F(FontPanelTest, TakesNothingBackForAnotherControl)
+{
+    panel->findChild<QDoubleSpinBox *>()->setValue(30.0);
+    auto *undo = button<QPushButton>(u"U&ndo"_s);
+    EXPECT_TRUE(undo->isEnabled());
+    window.activateWindow();
+    lineOutside->setFocus();
+    EXPECT_FALSE(undo->isEnabled());
+}
+
+TEST_F(FontPanelTest, StaysAboveTheWindowOfTheControl)
+{
+    EXPECT_EQ(panel->windowHandle()->transientParent(), window.windowHandle());
+}
+
+TEST_F(FontPanelTest, GoesOnWithItsControlAfterAnAlert)
+{
+    QMessageBox alert(QMessageBox::Warning, u"Alert"_s, u"Something is wrong."_s, QMessageBox::Ok, &window);
+    alert.open();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&alert));
+    alert.close();
+    panel->findChild<QDoubleSpinBox *>()->setValue(31.0);
+    EXPECT_EQ(editor->font.pointSizeF(), 31.0);
 }
 
 TEST_F(FontPanelTest, TellsNobodyWhereNoControlListens)

@@ -83,6 +83,25 @@ class WindowedPanel(unittest.TestCase):
         panel.press("Escape")
         panel.wait_for_keyboard(panel.panel)
 
+    def window_at(self, x, y):
+        """The uppermost window at a place of the screen, with its frame."""
+        self.display.input("mousemove", x, y)
+        return int(self.display.run("xdotool", "getmouselocation", "--shell").stdout.split("WINDOW=")[1].split()[0])
+
+    def test_keeps_the_font_panel_above_the_window_that_is_clicked(self):
+        panel = self.start()
+        panel.click(panel.panel, "fontPanelButton")
+        fonts = int(wait_until(lambda: self.display.run("xdotool", "search", "--onlyvisible", "--name", "^Fonts$").stdout,
+                               "the font panel"))
+        wait_until(lambda: self.display.active_window() == fonts, "the font panel to be active")
+        self.display.input("windowmove", "--sync", fonts, 100, 100)
+        beside = self.window_at(600, 700)
+        above = wait_until(lambda: self.window_at(200, 250) not in (0, beside) and self.window_at(200, 250),
+                           "the font panel to be there")
+        self.display.input("mousemove", 600, 700, "click", 1)
+        panel.wait_for_keyboard(panel.panel)
+        self.assertEqual(self.window_at(200, 250), above)
+
     def test_saves_every_setting_that_was_edited(self):
         panel = self.start()
         panel.press("alt+n", "ctrl+a")

@@ -97,6 +97,21 @@
         <extracomment>Tool tip of a field that shows a font.</extracomment>
         <translation>Dubbelklik of druk die spasiebalk om ’n font te kies</translation>
     </message>
+    <message>
+        <source>Choose a font</source>
+        <extracomment>What a screen reader calls a button, and its tool tip.</extracomment>
+        <translation>Kies ’n lettertipe</translation>
+    </message>
+    <message>
+        <source>not installed</source>
+        <extracomment>Stands in a field, behind the name of a font.</extracomment>
+        <translation>nie geïnstalleer nie</translation>
+    </message>
+    <message>
+        <source>This font is not installed.</source>
+        <extracomment>In a tool tip.</extracomment>
+        <translation>Hierdie lettertipe is nie geïnstalleer nie.</translation>
+    </message>
 </context>
 <context>
     <name>KZPageView</name>
@@ -202,6 +217,21 @@
         <source>Choose the background color</source>
         <extracomment>What a screen reader calls a button, and title of what it opens.</extracomment>
         <translation>Kies die agtergrondkleur</translation>
+    </message>
+    <message>
+        <source>U&amp;ndo</source>
+        <extracomment>A button: takes back the last change.</extracomment>
+        <translation>O&amp;ntdoen</translation>
+    </message>
+    <message>
+        <source>Takes back the last change</source>
+        <extracomment>Tool tip of a button.</extracomment>
+        <translation>Maak die laaste verandering ongedaan</translation>
+    </message>
+    <message>
+        <source>The font “%1” is not installed. Another one stands in for it here.</source>
+        <extracomment>%1 is the name of a family of fonts.</extracomment>
+        <translation>Die lettertipe “%1” is nie geïnstalleer nie. ’n Ander een staan hier in die plek daarvan.</translation>
     </message>
 </context>
 </TS>

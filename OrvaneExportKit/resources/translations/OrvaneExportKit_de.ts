@@ -97,6 +97,21 @@
         <extracomment>Tool tip of a field that shows a font.</extracomment>
         <translation>Doppelklicken oder Leertaste drücken, um eine Schrift zu wählen</translation>
     </message>
+    <message>
+        <source>Choose a font</source>
+        <extracomment>What a screen reader calls a button, and its tool tip.</extracomment>
+        <translation>Schrift wählen</translation>
+    </message>
+    <message>
+        <source>not installed</source>
+        <extracomment>Stands in a field, behind the name of a font.</extracomment>
+        <translation>nicht installiert</translation>
+    </message>
+    <message>
+        <source>This font is not installed.</source>
+        <extracomment>In a tool tip.</extracomment>
+        <translation>Diese Schrift ist nicht installiert.</translation>
+    </message>
 </context>
 <context>
     <name>KZPageView</name>
@@ -202,6 +217,21 @@
         <source>Choose the background color</source>
         <extracomment>What a screen reader calls a button, and title of what it opens.</extracomment>
         <translation>Hintergrundfarbe wählen</translation>
+    </message>
+    <message>
+        <source>U&amp;ndo</source>
+        <extracomment>A button: takes back the last change.</extracomment>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Takes back the last change</source>
+        <extracomment>Tool tip of a button.</extracomment>
+        <translation>Nimmt die letzte Änderung zurück</translation>
+    </message>
+    <message>
+        <source>The font “%1” is not installed. Another one stands in for it here.</source>
+        <extracomment>%1 is the name of a family of fonts.</extracomment>
+        <translation>Die Schrift „%1“ ist nicht installiert. Hier wird sie durch eine andere ersetzt.</translation>
     </message>
 </context>
 </TS>

@@ -97,6 +97,21 @@
         <extracomment>Tool tip of a field that shows a font.</extracomment>
         <translation>Double-cliquez ou appuyez sur la barre d’espace pour choisir une police</translation>
     </message>
+    <message>
+        <source>Choose a font</source>
+        <extracomment>What a screen reader calls a button, and its tool tip.</extracomment>
+        <translation>Choisir une police</translation>
+    </message>
+    <message>
+        <source>not installed</source>
+        <extracomment>Stands in a field, behind the name of a font.</extracomment>
+        <translation>non installée</translation>
+    </message>
+    <message>
+        <source>This font is not installed.</source>
+        <extracomment>In a tool tip.</extracomment>
+        <translation>Cette police n’est pas installée.</translation>
+    </message>
 </context>
 <context>
     <name>KZPageView</name>
@@ -202,6 +217,21 @@
         <source>Choose the background color</source>
         <extracomment>What a screen reader calls a button, and title of what it opens.</extracomment>
         <translation>Choisir la couleur d’arrière-plan</translation>
+    </message>
+    <message>
+        <source>U&amp;ndo</source>
+        <extracomment>A button: takes back the last change.</extracomment>
+        <translation>Annule&amp;r</translation>
+    </message>
+    <message>
+        <source>Takes back the last change</source>
+        <extracomment>Tool tip of a button.</extracomment>
+        <translation>Annule la dernière modification</translation>
+    </message>
+    <message>
+        <source>The font “%1” is not installed. Another one stands in for it here.</source>
+        <extracomment>%1 is the name of a family of fonts.</extracomment>
+        <translation>La police « %1 » n’est pas installée. Une autre la remplace ici.</translation>
     </message>
 </context>
 </TS>

@@ -97,6 +97,21 @@
         <extracomment>Tool tip of a field that shows a font.</extracomment>
         <translation>Fai doppio clic o premi la barra spaziatrice per scegliere un font</translation>
     </message>
+    <message>
+        <source>Choose a font</source>
+        <extracomment>What a screen reader calls a button, and its tool tip.</extracomment>
+        <translation>Scegli un font</translation>
+    </message>
+    <message>
+        <source>not installed</source>
+        <extracomment>Stands in a field, behind the name of a font.</extracomment>
+        <translation>non installato</translation>
+    </message>
+    <message>
+        <source>This font is not installed.</source>
+        <extracomment>In a tool tip.</extracomment>
+        <translation>Questo font non è installato.</translation>
+    </message>
 </context>
 <context>
     <name>KZPageView</name>
@@ -202,6 +217,21 @@
         <source>Choose the background color</source>
         <extracomment>What a screen reader calls a button, and title of what it opens.</extracomment>
         <translation>Scegli il colore di sfondo</translation>
+    </message>
+    <message>
+        <source>U&amp;ndo</source>
+        <extracomment>A button: takes back the last change.</extracomment>
+        <translation>Annu&amp;lla</translation>
+    </message>
+    <message>
+        <source>Takes back the last change</source>
+        <extracomment>Tool tip of a button.</extracomment>
+        <translation>Annulla l’ultima modifica</translation>
+    </message>
+    <message>
+        <source>The font “%1” is not installed. Another one stands in for it here.</source>
+        <extracomment>%1 is the name of a family of fonts.</extracomment>
+        <translation>Il font “%1” non è installato. Qui è sostituito da un altro.</translation>
     </message>
 </context>
 </TS>

@@ -97,6 +97,21 @@
         <extracomment>Tool tip of a field that shows a font.</extracomment>
         <translation>ダブルクリックするかスペースキーを押してフォントを選択</translation>
     </message>
+    <message>
+        <source>Choose a font</source>
+        <extracomment>What a screen reader calls a button, and its tool tip.</extracomment>
+        <translation>フォントを選択</translation>
+    </message>
+    <message>
+        <source>not installed</source>
+        <extracomment>Stands in a field, behind the name of a font.</extracomment>
+        <translation>未インストール</translation>
+    </message>
+    <message>
+        <source>This font is not installed.</source>
+        <extracomment>In a tool tip.</extracomment>
+        <translation>このフォントはインストールされていません。</translation>
+    </message>
 </context>
 <context>
     <name>KZPageView</name>
@@ -202,6 +217,21 @@
         <source>Choose the background color</source>
         <extracomment>What a screen reader calls a button, and title of what it opens.</extracomment>
         <translation>背景色を選択</translation>
+    </message>
+    <message>
+        <source>U&amp;ndo</source>
+        <extracomment>A button: takes back the last change.</extracomment>
+        <translation>元に戻す(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Takes back the last change</source>
+        <extracomment>Tool tip of a button.</extracomment>
+        <translation>最後の変更を取り消します</translation>
+    </message>
+    <message>
+        <source>The font “%1” is not installed. Another one stands in for it here.</source>
+        <extracomment>%1 is the name of a family of fonts.</extracomment>
+        <translation>フォント「%1」はインストールされていません。ここでは別のフォントで表示されます。</translation>
     </message>
 </context>
 </TS>
