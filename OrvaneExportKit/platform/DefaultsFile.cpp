@@ -1,5 +1,7 @@
 #include <OrvaneExportKit/platform/DefaultsFile.h>
 
+#include <OrvaneExportKit/platform/DiskFolder.h>
+#include <OrvaneExportKit/platform/FileReplacement.h>
 #include <OrvaneExportKit/platform/PropertyList.h>
 #include <OrvaneExportKit/platform/PropertyListCheck.h>
 #include <OrvaneExportKit/platform/PropertyListError.h>
@@ -11,7 +13,6 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLockFile>
-#include <QtCore/QSaveFile>
 
 #include <algorithm>
 #include <chrono>
@@ -37,9 +38,6 @@ constexpr auto pauseBetweenTries = 1ms;
 
 /// No program needs a lock for so long.
 constexpr auto abandonedLockAge = 2s;
-
-/// What a user has set is nobody else's business.
-constexpr QFile::Permissions ownerMayWrite = QFile::ReadOwner | QFile::WriteOwner;
 
 bool isSeparatorOrControl(QChar character)
 {
@@ -74,7 +72,7 @@ void makeFolder(const QString &folder)
         return;
     }
     QDir().mkpath(info.path());
-    QDir().mkdir(folder, ownerMayWrite | QFile::ExeOwner);
+    QDir().mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     if (!QFileInfo(folder).isDir()) { // another program may have made it first
         throw DefaultsError{u"The settings folder %1 cannot be made: make it yourself, or make the folder around it "
                             "writable, and save again."_s.arg(quoted(folder))};
@@ -277,17 +275,17 @@ DefaultsError DefaultsFile::notWritable(const QString &reason) const
 
 void DefaultsFile::replace(const QVariantMap &contents) const
 {
-    const QByteArray data = serialized(contents);
-    QSaveFile file(m_path);
-    bool isWritten = file.open(QIODevice::WriteOnly);
-    if (isWritten) {
-        file.setPermissions(ownerMayWrite); // where the file system knows permissions
-        // Flushed here, for commit() would put a file in place whose last bytes found the disk full.
-        isWritten = file.write(data) == data.size() && file.flush() && file.commit();
+    FileReplacement file(FileAccess::OwnerAlone); // what a user has set is nobody else's business
+    if (file.write(m_path, serialized(contents)) && file.finish()) {
+        return;
     }
-    if (!isWritten) {
-        throw notSaved(m_path, file.errorString() + u"; make room on the disk or the file writable, and save again"_s);
+    const FileFailure failure = file.failure();
+    if (failure.isInPlace) {
+        throw DefaultsError{
+            u"The settings file %1 was saved, but may be lost if the computer stops now: its folder was "
+            "not written to disk (%2); correct this and save again."_s.arg(quoted(m_path), failure.reason)};
     }
+    throw notSaved(m_path, failure.reason + u"; make room on the disk or the file writable, and save again"_s);
 }
 
 void DefaultsFile::remove() const
@@ -296,6 +294,13 @@ void DefaultsFile::remove() const
     if (!file.remove()) {
         throw DefaultsError{u"The settings file %1 was not removed: %2; correct this and try again."_s.arg(
             quoted(m_path), file.errorString())};
+    }
+    try {
+        DiskFolder::open(m_folder)->flush();
+    } catch (const DiskError &error) {
+        throw DefaultsError{
+            u"The settings file %1 was removed, but may be back if the computer stops now: its folder was "
+            "not written to disk (%2); correct this and try again."_s.arg(quoted(m_path), error.reason)};
     }
 }
 

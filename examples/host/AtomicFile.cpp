@@ -1,41 +1,24 @@
 #include "AtomicFile.h"
 
-#include "HostError.h"
 #include "Messages.h"
-
-#include <QtCore/QSaveFile>
-
-using namespace Qt::Literals::StringLiterals;
 
 namespace host {
 
-namespace {
-
-/// A disk that fills up takes a part of the content first; the attempt to write the rest tells the reason.
-bool writeAll(QSaveFile &file, const QByteArray &content)
-{
-    qint64 written = 0;
-    while (written < content.size()) {
-        const qint64 count = file.write(content.constData() + written, content.size() - written);
-        if (count <= 0) {
-            return false;
-        }
-        written += count;
-    }
-    return true;
-}
-
-} // namespace
-
 void writeFile(const QString &path, const QByteArray &content)
 {
-    QSaveFile file(path);
-    // Unbuffered, because commit() does not notice when the rest of a buffer can't be written.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeAll(file, content) || !file.commit()) {
-        throw HostError(
-            ExitCode::Output,
-            Texts::tr("%1 can't be written: %2; see to that and try again").arg(quoted(path), file.errorString()));
+    platform::FileReplacement file;
+    if (!file.write(path, content) || !file.finish()) {
+        throw notWritten(file.failure());
     }
+}
+
+HostError notWritten(const platform::FileFailure &failure)
+{
+    const QString message = failure.isInPlace
+                                ? Texts::tr("%1 is written, but may be lost if the computer stops now, for its folder "
+                                            "was not written to disk: %2; see to that and try again")
+                                : Texts::tr("%1 can't be written: %2; see to that and try again");
+    return HostError(ExitCode::Output, message.arg(quoted(failure.path), failure.reason));
 }
 
 } // namespace host

@@ -1,6 +1,7 @@
 #include "ExportFiles.h"
 
 #include "AtomicFile.h"
+#include "HostError.h"
 #include "Messages.h"
 #include "PluginCalls.h"
 
@@ -44,25 +45,49 @@ QString ExportFiles::nextDescription() const
     return document != nullptr ? described(*document) : Texts::tr("the file %1").arg(quoted(nextName()));
 }
 
-void ExportFiles::writeNext()
+void ExportFiles::makeNext()
 {
-    const ManuscriptDocument *document = nextDocument();
-    const QString path = nextPath();
-    writeFile(path, document != nullptr ? exportedDocument(*document, m_plugin) : nextAdditionalContent());
-    m_written.append(path);
+    try {
+        if (!m_files.write(nextPath(), nextContent())) {
+            throw notWritten(m_files.failure());
+        }
+    } catch (const HostError &error) {
+        if (m_files.finish()) {
+            throw;
+        }
+        const QString alsoFailed = notWritten(m_files.failure()).message();
+        throw HostError(error.exitCode(), Texts::tr("%1; also, %2").arg(error.message(), alsoFailed));
+    }
+    ++m_madeCount;
+    if (allMade()) {
+        finish();
+    }
 }
 
-/// Null when all documents have been written.
+void ExportFiles::finish()
+{
+    if (!m_files.finish()) {
+        throw notWritten(m_files.failure());
+    }
+}
+
+/// Null when all documents have been exported.
 const ManuscriptDocument *ExportFiles::nextDocument() const
 {
-    const auto index = static_cast<std::size_t>(m_written.size());
+    const auto index = static_cast<std::size_t>(m_madeCount);
     return index < m_manuscript.documents.size() ? &m_manuscript.documents[index] : nullptr;
 }
 
 QString ExportFiles::nextPath() const
 {
-    const qsizetype index = m_written.size();
-    return index < documentCount() ? m_paths.documents[index] : m_paths.additional[index - documentCount()];
+    return m_madeCount < documentCount() ? m_paths.documents[m_madeCount]
+                                         : m_paths.additional[m_madeCount - documentCount()];
+}
+
+QByteArray ExportFiles::nextContent() const
+{
+    const ManuscriptDocument *document = nextDocument();
+    return document != nullptr ? exportedDocument(*document, m_plugin) : nextAdditionalContent();
 }
 
 QByteArray ExportFiles::nextAdditionalContent() const

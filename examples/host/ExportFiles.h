@@ -3,6 +3,7 @@
 #include "ManuscriptReader.h"
 #include "OutputPaths.h"
 
+#include <OrvaneExportKit/platform/FileReplacement.h>
 #include <OrvaneExportKit/run/ExportPlugin.h>
 
 #include <QtCore/QByteArray>
@@ -15,11 +16,11 @@ namespace host {
 /// plug-in fails.
 QByteArray exportedDocument(const ManuscriptDocument &document, const ExportPlugin &plugin);
 
-/// The files of an export, written one by one, each as a whole or not at all: those of the documents, then those that
-/// the plug-in adds.
+/// The files of an export, made one by one, each written as a whole or not at all: those of the documents, then those
+/// that the plug-in adds. They get their names some at a time, as the disk takes them.
 ///
 ///     ExportFiles files(manuscript, plugin, paths);
-///     while (!files.allWritten()) { show(files.nextName()); files.writeNext(); }
+///     while (!files.allMade()) { show(files.nextName()); files.makeNext(); }
 class ExportFiles
 {
 public:
@@ -27,7 +28,8 @@ public:
     ExportFiles(const Manuscript &manuscript, const ExportPlugin &plugin, OutputPaths paths);
 
     qsizetype count() const { return m_paths.documents.size() + m_paths.additional.size(); }
-    bool allWritten() const { return m_written.size() == count(); }
+    qsizetype madeCount() const { return m_madeCount; }
+    bool allMade() const { return m_madeCount == count(); }
 
     /// The name of the document that comes next, or of the file that the plug-in adds.
     QString nextName() const;
@@ -35,24 +37,30 @@ public:
     /// The same for a message: what it is and its name in quotes.
     QString nextDescription() const;
 
-    /// Writes the next file. Throws `HostError` when that fails; the file then is as it was before.
-    void writeNext();
+    /// Makes the next file. After the last one, all are written. Throws `HostError` when a file can't be made or
+    /// written; it then is as it was before, and those made before it are written as far as that is possible.
+    void makeNext();
+
+    /// Writes what was made, when no more is to come. Throws `HostError` when that fails.
+    void finish();
 
     /// The paths of the files that have been written.
-    const QStringList &written() const { return m_written; }
+    QStringList written() const { return m_files.replaced(); }
 
     qsizetype documentCount() const { return m_paths.documents.size(); }
-    qsizetype writtenDocumentCount() const { return qMin(m_written.size(), documentCount()); }
+    qsizetype writtenDocumentCount() const { return qMin(written().size(), documentCount()); }
 
 private:
     const ManuscriptDocument *nextDocument() const;
     QString nextPath() const;
+    QByteArray nextContent() const;
     QByteArray nextAdditionalContent() const;
 
     const Manuscript &m_manuscript;
     const ExportPlugin &m_plugin;
     OutputPaths m_paths;
-    QStringList m_written;
+    platform::FileReplacement m_files;
+    qsizetype m_madeCount = 0;
 };
 
 } // namespace host

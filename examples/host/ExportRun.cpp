@@ -79,18 +79,26 @@ private:
 class WrittenFiles
 {
 public:
-    explicit WrittenFiles(const ExportFiles &files) : m_files(files) {}
+    WrittenFiles(const ExportFiles &files, const ProgressLine &progress) : m_files(files), m_progress(progress) {}
+    WrittenFiles(const WrittenFiles &) = delete;
+    WrittenFiles &operator=(const WrittenFiles &) = delete;
+    ~WrittenFiles() { listNew(); } // where the export ends with an error, too
 
-    void listNew(const ProgressLine &progress)
+    void listNew()
     {
-        progress.show({});
-        for (; m_listed < m_files.written().size(); ++m_listed) {
-            printResult(m_files.written()[m_listed] + u'\n');
+        const QStringList written = m_files.written();
+        if (m_listed == written.size()) {
+            return;
+        }
+        m_progress.show({});
+        for (; m_listed < written.size(); ++m_listed) {
+            printResult(written[m_listed] + u'\n');
         }
     }
 
 private:
     const ExportFiles &m_files;
+    const ProgressLine &m_progress;
     qsizetype m_listed = 0;
 };
 
@@ -98,15 +106,15 @@ void writeFiles(ExportFiles &files)
 {
     const InterruptionWatch interruptions;
     const ProgressLine progress;
-    WrittenFiles written(files);
-    while (!files.allWritten()) {
+    WrittenFiles written(files, progress);
+    while (!files.allMade()) {
         if (interruptions.wasInterrupted()) {
+            files.finish();
             throw HostError(ExitCode::Interrupted, u"the export was interrupted; export again for the rest"_s);
         }
-        progress.show(
-            u"%1/%2 %3"_s.arg(files.written().size() + 1).arg(files.count()).arg(printable(files.nextName())));
-        files.writeNext();
-        written.listNew(progress);
+        progress.show(u"%1/%2 %3"_s.arg(files.madeCount() + 1).arg(files.count()).arg(printable(files.nextName())));
+        files.makeNext();
+        written.listNew();
     }
 }
 

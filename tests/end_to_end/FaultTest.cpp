@@ -1,6 +1,7 @@
 #include <tests/end_to_end/HostTest.h>
 #include <tests/support/Faults.h>
 
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtCore/QProcessEnvironment>
@@ -20,14 +21,20 @@ class Fault : public HostTest
 {
 protected:
     /// Runs the export of the manuscript while the system fails on the files below a folder.
-    HostResult exportMeeting(const QMap<QString, QString> &faults, const QString &folder) const
+    HostResult exportMeeting(const QMap<QString, QString> &faults, const QString &folder,
+                             const QStringList &options = {u"--yes"_s, u"--set"_s, u"line-length=0"_s}) const
+    {
+        QProcess process;
+        process.setProcessEnvironment(environmentWith(faults, folder));
+        process.start(hostProgram, exportArguments(options));
+        return finished(process);
+    }
+
+    static QProcessEnvironment environmentWith(const QMap<QString, QString> &faults, const QString &folder)
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         support::insertFaults(environment, folder, faults);
-        QProcess process;
-        process.setProcessEnvironment(environment);
-        process.start(hostProgram, exportArguments({u"--yes"_s, u"--set"_s, u"line-length=0"_s}));
-        return finished(process);
+        return environment;
     }
 
     /// Runs it while the disk of the destination takes no more than so many bytes.
@@ -35,6 +42,17 @@ protected:
     {
         return exportMeeting({{u"ROOM"_s, QString::number(freeBytes)}}, destination());
     }
+
+    void emptyDestination() const
+    {
+        for (const QString &name : filesIn(destination())) {
+            EXPECT_TRUE(QFile::remove(exported(name)));
+        }
+    }
+
+    /// Kills exports that meet the faults, each at another moment; then one that is left alone leaves nothing but its
+    /// files.
+    void expectWholeFilesAfterKills(const QMap<QString, QString> &faults) const;
 
     /// Exports with a plug-in that fails where the document or the environment asks for it.
     HostResult exportByFailingPlugin(const QString &operation = {}, const QString &way = {}) const
@@ -105,7 +123,43 @@ const QMap<QString, QString> waysToEnd{
 /// A text of its own for each number.
 QByteArray largeText(int number)
 {
-    return QByteArray::number(number).repeated(20000) + '\n';
+    return QByteArray::number(number).repeated(1000) + '\n';
+}
+
+void Fault::expectWholeFilesAfterKills(const QMap<QString, QString> &faults) const
+{
+    constexpr int documentCount = 600; // more than are written together
+    QList<TestDocument> documents;
+    for (int number = 1; number <= documentCount; ++number) {
+        documents.append({u"Large"_s, largeText(number)});
+    }
+    writeManuscript(documents);
+    const QStringList options{u"--yes"_s, u"--pattern"_s, u"<1>"_s, u"--set"_s, u"line-length=0"_s};
+
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_EQ(exportMeeting(faults, destination(), options).exitCode, 0);
+    std::mt19937 random(1); // the same parts of the time in every run of the test
+    std::uniform_int_distribution<qint64> microseconds(0, timer.nsecsElapsed() / 1000);
+    int cutShort = 0;
+    for (int run = 0; run < 12; ++run) {
+        emptyDestination();
+        QProcess process;
+        process.setProcessEnvironment(environmentWith(faults, destination()));
+        process.start(hostProgram, exportArguments(options));
+        EXPECT_TRUE(process.waitForStarted());
+        std::this_thread::sleep_for(std::chrono::microseconds(microseconds(random)));
+        process.kill();
+        EXPECT_TRUE(process.waitForFinished());
+        const QStringList names = exportedFilesIn(destination());
+        for (const QString &name : names) {
+            EXPECT_EQ(fileContent(exported(name)), largeText(name.first(3).toInt())) << testing::PrintToString(name);
+        }
+        cutShort += names.size() < documentCount ? 1 : 0;
+    }
+    EXPECT_GT(cutShort, 0) << "no run was killed before its end";
+    EXPECT_EQ(exportMeeting(faults, destination(), options).exitCode, 0);
+    EXPECT_EQ(filesIn(destination()).size(), documentCount) << "unfinished files were left";
 }
 
 } // namespace
@@ -220,8 +274,11 @@ TEST_F(Fault, PluginThatCrashesIsNamedAndLeavesWholeFilesOnly)
     EXPECT_TRUE(result.errors.contains("orvane-host: the plug-in failing crashed (signal 11) on the document 'Two'; "
                                        "the files that are listed are whole, all others are as they were; "_L1))
         << testing::PrintToString(result.errors);
-    EXPECT_EQ(filesIn(destination()), QStringList({u"001 One.txt"_s, u"002 Two.txt"_s}));
-    EXPECT_EQ(result.output, exported(u"001 One.txt"_s) + u'\n');
+    const QString first = exported(u"001 One.txt"_s);
+    EXPECT_EQ(result.output, QFile::exists(first) ? first + u'\n' : QString());
+    if (QFile::exists(first)) {
+        EXPECT_EQ(fileContent(first), "1");
+    }
     EXPECT_EQ(fileContent(exported(u"002 Two.txt"_s)), "old");
     writeManuscript({{u"One"_s, "1"}, {u"Two"_s, "2"}});
     EXPECT_EQ(exportByFailingPlugin().exitCode, 0);
@@ -239,10 +296,32 @@ TEST_F(Fault, PluginThatEndsTheProgramInAnyOperationIsNamedAndTheFilesAreListed)
             EXPECT_TRUE(result.errors.contains(operation.description.arg(way.value())))
                 << testing::PrintToString(result.errors);
             EXPECT_EQ(result.output, listOfFiles());
-            EXPECT_EQ(result.output.isEmpty(), operationsBeforeWriting.contains(operation));
+            EXPECT_TRUE(result.output.isEmpty() || !operationsBeforeWriting.contains(operation));
             for (const QString &name : filesIn(destination())) {
                 EXPECT_TRUE(QFile::remove(exported(name)));
             }
+        }
+    }
+}
+
+TEST_F(Fault, FileThatTheDiskDoesNotTakeIsNamedAndTheFilesBeforeItAreWhole)
+{
+    const QMap<int, QString> errors{
+        {EIO, u"Input/output error"_s}, {ENOSPC, u"No space left on device"_s}, {EDQUOT, u"Disk quota exceeded"_s}};
+    for (const QString &fault : {u"FLUSH"_s, u"LINK"_s}) {
+        for (auto error = errors.begin(); error != errors.end(); ++error) {
+            SCOPED_TRACE(testing::PrintToString(fault + u' ' + *error));
+            emptyDestination();
+            const HostResult result = exportMeeting({{fault, u"%1@2"_s.arg(error.key())}}, destination());
+            EXPECT_EQ(result.exitCode, 4);
+            EXPECT_EQ(result.output, exported(u"001 One.txt\n"_s));
+            EXPECT_TRUE(result.errors.contains(u"Exported 1 of 3 documents"_s));
+            EXPECT_TRUE(result.errors.contains(
+                u"orvane-host: '%1' can't be written: %2"_s.arg(exported(u"002 Two.txt"_s), *error)))
+                << testing::PrintToString(result.errors);
+            EXPECT_EQ(filesIn(destination()), QStringList{u"001 One.txt"_s});
+            EXPECT_EQ(runExport({u"--yes"_s}).exitCode, 0);
+            EXPECT_EQ(filesIn(destination()).size(), 3);
         }
     }
 }
@@ -274,36 +353,59 @@ TEST_F(Fault, PluginThatEndsTheProgramInItsWindowIsNamed)
 }
 #endif
 
+TEST_F(Fault, FolderThatCannotBeOpenedOrFlushedIsAnError)
+{
+    HostResult result = exportMeeting({{u"OPEN_FOLDER"_s, QString::number(EIO)}}, destination());
+    EXPECT_TRUE(failedWith(4, {exported(u"001 One.txt"_s), u"can't be written: Input/output error"_s}, result));
+    EXPECT_EQ(filesIn(destination()), QStringList());
+
+    result = exportMeeting({{u"FLUSH_FOLDER"_s, QString::number(EIO)}}, destination());
+    EXPECT_EQ(result.exitCode, 4);
+    EXPECT_TRUE(result.errors.contains(
+        u"'%1' is written, but may be lost if the computer stops now"_s.arg(exported(u"001 One.txt"_s))))
+        << testing::PrintToString(result.errors);
+    EXPECT_TRUE(result.errors.contains(u"Input/output error"_s));
+    EXPECT_EQ(result.output.count(u'\n'), 3);
+    EXPECT_EQ(filesIn(destination()).size(), 3);
+    EXPECT_EQ(runExport({u"--yes"_s}).exitCode, 0);
+}
+
+TEST_F(Fault, FilesOfAFileSystemThatCannotBeFlushedAreNotTrusted)
+{
+    writeManuscript(QList<TestDocument>(40, {u"Same"_s, "text"}));
+    const QMap<QString, QString> onKnownFileSystem{{u"FILE_SYSTEM"_s, QString::number(0xEF53)}};
+    QMap<QString, QString> faults = onKnownFileSystem;
+    faults.insert(u"FLUSH_ALL"_s, QString::number(EIO));
+    HostResult result = exportMeeting(faults, destination());
+    EXPECT_TRUE(failedWith(4, {exported(u"001 Same.txt"_s), u"can't be written: Input/output error"_s}, result));
+    EXPECT_EQ(filesIn(destination()), QStringList());
+
+    faults = onKnownFileSystem;
+    faults.insert(u"FLUSH"_s, QString::number(EIO));
+    EXPECT_EQ(exportMeeting(faults, destination()).exitCode, 0) << "files were flushed one by one";
+    EXPECT_EQ(filesIn(destination()).size(), 40);
+}
+
+TEST_F(Fault, EachFileIsFlushedWhereAFileSystemDoesNotTellOfAllThatFails)
+{
+    writeManuscript(QList<TestDocument>(40, {u"Same"_s, "text"}));
+    const HostResult result =
+        exportMeeting({{u"FILE_SYSTEM"_s, u"1"_s}, {u"FLUSH"_s, u"%1@31"_s.arg(ENOSPC)}}, destination());
+    EXPECT_EQ(result.exitCode, 4);
+    EXPECT_TRUE(
+        result.errors.contains(u"'%1' can't be written: No space left on device"_s.arg(exported(u"031 Same.txt"_s))))
+        << testing::PrintToString(result.errors);
+    EXPECT_EQ(filesIn(destination()).size(), 30);
+}
+
 TEST_F(Fault, KilledAtAnyMomentLeavesWholeFilesOnly)
 {
-    constexpr int documentCount = 40;
-    QList<TestDocument> documents;
-    for (int number = 1; number <= documentCount; ++number) {
-        documents.append({u"Large"_s, largeText(number)});
-    }
-    writeManuscript(documents);
+    expectWholeFilesAfterKills({});
+}
 
-    std::mt19937 random(1); // the same moments in every run of the test
-    std::uniform_int_distribution<int> filesBefore(0, documentCount / 2);
-    std::uniform_int_distribution<int> microsecondsLater(0, 3000);
-    int cutShort = 0;
-    for (int run = 0; run < 15; ++run) {
-        for (const QString &name : filesIn(destination())) {
-            EXPECT_TRUE(QFile::remove(exported(name)));
-        }
-        QProcess process;
-        process.start(hostProgram, exportArguments({u"--pattern"_s, u"<1>"_s, u"--set"_s, u"line-length=0"_s}));
-        EXPECT_TRUE(waitForExportedFiles(destination(), filesBefore(random)));
-        std::this_thread::sleep_for(std::chrono::microseconds(microsecondsLater(random)));
-        process.kill();
-        EXPECT_TRUE(process.waitForFinished());
-        const QStringList names = exportedFilesIn(destination());
-        for (const QString &name : names) {
-            EXPECT_EQ(fileContent(exported(name)), largeText(name.first(3).toInt())) << testing::PrintToString(name);
-        }
-        cutShort += names.size() < documentCount ? 1 : 0;
-    }
-    EXPECT_GT(cutShort, 0) << "no run was killed before its end";
+TEST_F(Fault, KilledAtAnyMomentLeavesWholeFilesOnlyWhereEachFileHasAName)
+{
+    expectWholeFilesAfterKills({{u"UNNAMED_FILE"_s, QString::number(EOPNOTSUPP)}});
 }
 
 } // namespace end_to_end

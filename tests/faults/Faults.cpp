@@ -13,7 +13,9 @@
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <sys/time.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 #define ORVANE_FAULT extern "C" __attribute__((visibility("default")))
@@ -46,21 +48,74 @@ bool isMet(std::string_view path)
     return !folder.empty() && path.substr(0, folder.size()) == folder;
 }
 
-bool isMet(int file)
+std::string pathOf(int file)
 {
     char path[4096];
     const std::string link = "/proc/self/fd/" + std::to_string(file);
     const ssize_t length = readlink(link.c_str(), path, sizeof path);
-    return length > 0 && isMet(std::string_view(path, static_cast<std::size_t>(length)));
+    return length > 0 ? std::string(path, static_cast<std::size_t>(length)) : std::string();
 }
 
-bool fails(const char *variable, const char *path)
+bool isMet(int file)
 {
-    if (environmentValue(variable).empty() || !isMet(path)) {
-        return false;
+    return isMet(std::string_view(pathOf(file)));
+}
+
+/// An error that calls fail with: all of them, or the n-th one.
+class Failure
+{
+public:
+    explicit Failure(const char *variable)
+    {
+        const std::string value = environmentValue(variable);
+        m_error = static_cast<int>(std::strtol(value.c_str(), nullptr, 10));
+        const std::size_t at = value.find('@');
+        m_failingCall = at == std::string::npos ? everyCall : std::strtol(value.c_str() + at + 1, nullptr, 10);
     }
-    errno = static_cast<int>(number(variable, EIO));
-    return true;
+
+    /// Whether this call, which is about a path or an open file, fails.
+    template <typename Place>
+    bool isMet(const Place &place)
+    {
+        if (m_error == 0 || !::isMet(place)) {
+            return false;
+        }
+        const long call = ++m_calls;
+        errno = m_error;
+        return m_failingCall == everyCall || m_failingCall == call;
+    }
+
+private:
+    static constexpr long everyCall = 0;
+
+    int m_error = 0;
+    long m_failingCall = everyCall;
+    std::atomic<long> m_calls = 0;
+};
+
+bool isFolder(int file)
+{
+    struct stat status = {};
+    return fstat(file, &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+bool flushFails(int file)
+{
+    static Failure ofFiles("ORVANE_FAULT_FLUSH");
+    static Failure ofFolders("ORVANE_FAULT_FLUSH_FOLDER");
+    return isFolder(file) ? ofFolders.isMet(file) : ofFiles.isMet(file);
+}
+
+bool renameFails(const char *to)
+{
+    static Failure failure("ORVANE_FAULT_RENAME");
+    return failure.isMet(std::string_view(to));
+}
+
+/// The path of a name in an open folder.
+std::string pathIn(int folder, const char *name)
+{
+    return *name == '/' ? std::string(name) : pathOf(folder) + '/' + name;
 }
 
 /// How many bytes the next write takes of those that it is given.
@@ -97,7 +152,77 @@ ORVANE_FAULT ssize_t write(int file, const void *bytes, std::size_t size)
 ORVANE_FAULT int rename(const char *from, const char *to) noexcept
 {
     static const auto realRename = real<int(const char *, const char *)>("rename");
-    return fails("ORVANE_FAULT_RENAME", to) ? -1 : realRename(from, to);
+    return renameFails(to) ? -1 : realRename(from, to);
+}
+
+ORVANE_FAULT int renameat(int fromFolder, const char *from, int toFolder, const char *to) noexcept
+{
+    static const auto realRename = real<int(int, const char *, int, const char *)>("renameat");
+    return renameFails(pathIn(toFolder, to).c_str()) ? -1 : realRename(fromFolder, from, toFolder, to);
+}
+
+ORVANE_FAULT int linkat(int fromFolder, const char *from, int toFolder, const char *to, int flags) noexcept
+{
+    static const auto realLink = real<int(int, const char *, int, const char *, int)>("linkat");
+    static Failure failure("ORVANE_FAULT_LINK");
+    return failure.isMet(std::string_view(pathIn(toFolder, to))) ? -1 : realLink(fromFolder, from, toFolder, to, flags);
+}
+
+ORVANE_FAULT int fsync(int file)
+{
+    static const auto realFlush = real<int(int)>("fsync");
+    return flushFails(file) ? -1 : realFlush(file);
+}
+
+ORVANE_FAULT int fdatasync(int file)
+{
+    static const auto realFlush = real<int(int)>("fdatasync");
+    return flushFails(file) ? -1 : realFlush(file);
+}
+
+ORVANE_FAULT int syncfs(int file) noexcept
+{
+    static const auto realFlush = real<int(int)>("syncfs");
+    static Failure failure("ORVANE_FAULT_FLUSH_ALL");
+    return failure.isMet(file) ? -1 : realFlush(file);
+}
+
+ORVANE_FAULT int fstatfs(int file, struct statfs *status) noexcept
+{
+    static const auto realStatus = real<int(int, struct statfs *)>("fstatfs");
+    const int result = realStatus(file, status);
+    if (isMet(file)) {
+        status->f_type = number("ORVANE_FAULT_FILE_SYSTEM", status->f_type);
+    }
+    return result;
+}
+
+ORVANE_FAULT int open(const char *path, int flags, ...)
+{
+    static const auto realOpen = real<int(const char *, int, mode_t)>("open");
+    static Failure ofFolders("ORVANE_FAULT_OPEN_FOLDER");
+    if ((flags & O_DIRECTORY) != 0 && ofFolders.isMet(std::string_view(path))) {
+        return -1;
+    }
+    va_list arguments;
+    va_start(arguments, flags);
+    const auto mode = static_cast<mode_t>(va_arg(arguments, unsigned));
+    va_end(arguments);
+    return realOpen(path, flags, mode);
+}
+
+ORVANE_FAULT int openat(int folder, const char *path, int flags, ...)
+{
+    static const auto realOpen = real<int(int, const char *, int, mode_t)>("openat");
+    static Failure ofUnnamed("ORVANE_FAULT_UNNAMED_FILE");
+    if ((flags & O_TMPFILE) == O_TMPFILE && ofUnnamed.isMet(folder)) {
+        return -1;
+    }
+    va_list arguments;
+    va_start(arguments, flags);
+    const auto mode = static_cast<mode_t>(va_arg(arguments, unsigned));
+    va_end(arguments);
+    return realOpen(folder, path, flags, mode);
 }
 
 ORVANE_FAULT int open64(const char *path, int flags, ...)
@@ -110,7 +235,8 @@ ORVANE_FAULT int open64(const char *path, int flags, ...)
         errno = ENOENT;
         return -1;
     }
-    if (view.find(".lock") != std::string_view::npos && fails("ORVANE_FAULT_LOCK_FILE", path)) {
+    static Failure ofLockFiles("ORVANE_FAULT_LOCK_FILE");
+    if (view.find(".lock") != std::string_view::npos && ofLockFiles.isMet(view)) {
         return -1;
     }
     va_list arguments;

@@ -12,11 +12,20 @@
 /// | `ROOM`          | how many bytes can still be written until the disk is full                            |
 /// | `WRITES`        | how many writes succeed until the disk is full                                        |
 /// | `LONGEST_WRITE` | how many bytes one write takes of those that it is given                              |
-/// | `RENAME`        | the number of the error that every renaming fails with                                |
+/// | `RENAME`        | the error that renaming a file fails with                                             |
+/// | `LINK`          | ... giving a name to a file without one                                               |
+/// | `FLUSH`         | ... flushing a file                                                                   |
+/// | `FLUSH_FOLDER`  | ... flushing a folder                                                                 |
+/// | `FLUSH_ALL`     | ... flushing a file system                                                            |
+/// | `OPEN_FOLDER`   | ... opening a folder                                                                  |
+/// | `UNNAMED_FILE`  | ... making a file without a name                                                      |
+/// | `FILE_SYSTEM`   | the number by which the system knows the kind of the file system, in decimal digits   |
 /// | `VANISHED`      | the end of the path of a file that is gone when it is opened                          |
 /// | `LOCK_FILE`     | the number of the error that every opening of a lock file fails with                  |
 /// | `LOCK`          | any: the file system knows no locks                                                   |
 /// | `CLOCK`         | by how many seconds the clock has been set forward, or back where that is negative    |
+///
+/// An error is its number, for every call; with `@n` behind it, for the n-th call alone: "5@2".
 
 namespace support {
 

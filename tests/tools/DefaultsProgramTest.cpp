@@ -15,6 +15,8 @@
 
 #include <cerrno>
 
+#include <sys/stat.h>
+
 using namespace Qt::Literals::StringLiterals;
 using platform::UserDefaults;
 
@@ -438,6 +440,77 @@ TEST_F(DefaultsProgramMeetingFaults, KeepsTheOldSettingsWhereTheNewFileCannotTak
     EXPECT_TRUE(printed(writeNewText(), QString()));
 }
 
+TEST_F(DefaultsProgramMeetingFaults, KeepsTheOldSettingsWhereTheNewFileIsNotTakenByTheDisk)
+{
+    const auto oldFiles = support::filesBelow(folder());
+    const QMap<int, QString> errors{
+        {EIO, u"Input/output error"_s}, {ENOSPC, u"No space left on device"_s}, {EDQUOT, u"Disk quota exceeded"_s}};
+    for (auto error = errors.begin(); error != errors.end(); ++error) {
+        for (const QString &fault : {u"FLUSH"_s, u"OPEN_FOLDER"_s, u"LINK"_s}) {
+            SCOPED_TRACE(testing::PrintToString(fault + u' ' + *error));
+            const QProcessEnvironment without = environment;
+            meet({{fault, QString::number(error.key())}});
+            const Result result = writeNewText();
+            EXPECT_TRUE(failed(result, failure, path(domainName)));
+            EXPECT_TRUE(support::contains(result.errors, *error));
+            EXPECT_EQ(support::filesBelow(folder()), oldFiles);
+            environment = without;
+        }
+    }
+    EXPECT_TRUE(printed(writeNewText(), QString()));
+}
+
+TEST_F(DefaultsProgramMeetingFaults, SaysThatNewSettingsMayNotBeOnDiskWhereTheFolderCannotBeFlushed)
+{
+    meet({{u"FLUSH_FOLDER"_s, QString::number(EIO)}});
+    const Result result = writeNewText();
+    EXPECT_TRUE(failed(result, failure, path(domainName)));
+    EXPECT_TRUE(support::contains(result.errors, u"may be lost"_s));
+    EXPECT_TRUE(support::contains(result.errors, u"Input/output error"_s));
+    EXPECT_EQ(savedDomain(domainName), (QVariantMap{{u"text"_s, newText}}));
+    EXPECT_TRUE(failed(run({u"delete"_s, domainName}), failure, u"Input/output error"_s));
+    environment.remove(u"LD_PRELOAD"_s);
+    EXPECT_TRUE(printed(writeNewText(), QString()));
+}
+
+TEST_F(DefaultsProgramMeetingFaults, SavesWhereFoldersNeedNotBeFlushed)
+{
+    meet({{u"FLUSH_FOLDER"_s, QString::number(EINVAL)}});
+    EXPECT_TRUE(printed(writeNewText(), QString()));
+    EXPECT_EQ(savedDomain(domainName), (QVariantMap{{u"text"_s, newText}}));
+}
+
+TEST_F(DefaultsProgramMeetingFaults, SavesWhereEachFileHasAName)
+{
+    for (const int error : {EOPNOTSUPP, EISDIR, ENOENT}) {
+        meet({{u"UNNAMED_FILE"_s, QString::number(error)}});
+        EXPECT_TRUE(printed(run({u"write"_s, domainName, u"error"_s, QString::number(error)}), QString()));
+        EXPECT_EQ(savedDomain(domainName)->value(u"error"_s), QString::number(error));
+    }
+    meet({{u"UNNAMED_FILE"_s, QString::number(EOPNOTSUPP)}, {u"FLUSH"_s, QString::number(EIO)}});
+    const auto oldFiles = support::filesBelow(folder());
+    EXPECT_TRUE(failed(writeNewText(), failure, u"Input/output error"_s));
+    EXPECT_EQ(support::filesBelow(folder()), oldFiles);
+}
+
+TEST_F(DefaultsProgramMeetingFaults, ExportsNothingThatTheDiskDoesNotTake)
+{
+    const QString file = parentFolder() + u"/backup.plist"_s;
+    support::writeFile(file, "old");
+    const QProcessEnvironment without = environment;
+    for (const QString &fault : {u"FLUSH"_s, u"RENAME"_s, u"LINK"_s, u"OPEN_FOLDER"_s}) {
+        SCOPED_TRACE(testing::PrintToString(fault));
+        meet({{fault, QString::number(EIO)}});
+        const Result result = run({u"export"_s, domainName, file});
+        EXPECT_TRUE(failed(result, failure, file));
+        EXPECT_TRUE(support::contains(result.errors, u"Input/output error"_s));
+        EXPECT_EQ(support::fileContent(file), "old");
+        environment = without;
+    }
+    meet({{u"FLUSH_FOLDER"_s, QString::number(EIO)}});
+    EXPECT_TRUE(failed(run({u"export"_s, domainName, file}), failure, u"may be lost"_s));
+}
+
 TEST_F(DefaultsProgramMeetingFaults, SavesNothingWithoutALockFile)
 {
     const auto oldFiles = support::filesBelow(folder());
@@ -486,6 +559,17 @@ TEST_F(DefaultsProgram, AFullDiskLeavesTheOldExportAndIsReported)
     fillDisk(100);
     EXPECT_TRUE(failed(run({u"export"_s, domainName, file}), failure, file));
     EXPECT_EQ(support::fileContent(file), "old");
+}
+
+TEST_F(DefaultsProgram, ExportReplacesNoDevice)
+{
+    set({{u"a"_s, 1}});
+    const QString pipe = parentFolder() + u"/pipe"_s;
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    EXPECT_TRUE(failed(run({u"export"_s, domainName, pipe}), failure, u"it is a device or the like"_s));
+    struct stat status = {};
+    EXPECT_EQ(stat(QFile::encodeName(pipe).constData(), &status), 0);
+    EXPECT_TRUE(S_ISFIFO(status.st_mode));
 }
 
 } // namespace

@@ -2,8 +2,9 @@
 
 #include "ProgramError.h"
 
+#include <OrvaneExportKit/platform/FileReplacement.h>
+
 #include <QtCore/QFile>
-#include <QtCore/QSaveFile>
 
 #include <cstdio>
 
@@ -32,12 +33,16 @@ void writeFile(const QString &name, const QByteArray &data)
         printResult(data);
         return;
     }
-    QSaveFile file(name);
-    // Flushed here, for commit() would put a file in place whose last bytes found the disk full.
-    if (!file.open(QIODevice::WriteOnly) || file.write(data) != data.size() || !file.flush() || !file.commit()) {
-        throw ProgramError(ExitCode::Failure, u"The file '%1' cannot be written: %2; name a file that can."_s.arg(
-                                                  name, file.errorString()));
+    platform::FileReplacement file;
+    if (file.write(name, data) && file.finish()) {
+        return;
     }
+    const platform::FileFailure failure = file.failure();
+    const QString problem = failure.isInPlace
+                                ? u"The file '%1' is written, but may be lost if the computer stops now: its "
+                                  "folder was not written to disk (%2); correct this and try again."_s
+                                : u"The file '%1' cannot be written: %2; name a file that can."_s;
+    throw ProgramError(ExitCode::Failure, problem.arg(name, failure.reason));
 }
 
 void printResult(const QByteArray &text)

@@ -18,13 +18,14 @@ bool writeFiles(ExportFiles &files, QWidget *window)
     KZExportProgress progress(window, static_cast<qint32>(files.count()));
     const platform::AbortFlag abort(progress);
     progress.showSheet();
-    while (!files.allWritten() && !abort.isSet()) {
+    while (!files.allMade() && !abort.isSet()) {
         progress.setDocumentName(files.nextName());
-        files.writeNext();
+        files.makeNext();
         progress.incrementToNextStep();
     }
+    files.finish();
     progress.hideSheet();
-    return !files.allWritten();
+    return !files.allMade();
 }
 
 } // namespace
