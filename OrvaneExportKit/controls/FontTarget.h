@@ -24,7 +24,8 @@ public:
     /// Makes itself the field's target, with the action `takeFont`. The field owns it.
     explicit FontTarget(KZFontNameTextField *field);
 
-    /// Stores and shows the name and the size of the font as the panel converts it.
+    /// Stores and shows the name and the size of the font as the panel converts it. Throws what the model throws; the
+    /// field then shows what is stored.
     Q_INVOKABLE void takeFont(windowing::FontPanel *sender);
 
 private:

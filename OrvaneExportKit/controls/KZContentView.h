@@ -9,7 +9,8 @@
 /// When it is taken out while the user is still typing in one of its fields, the edit ends first, and what was typed
 /// reaches what the field is bound to. The window itself then has the keyboard focus, also when no edit was in
 /// progress or another part of the window had the focus. That holds for `removeFromSuperview` and for every other new
-/// parent; a content view that is deleted where it stands ends the edit of its own field only.
+/// parent; a content view that is deleted where it stands ends the edit of its own field only. An error at the end of
+/// the edit goes to `platform::alertError`.
 ///
 ///     contentView->removeFromSuperview();
 ///     settings->writeSettingsToDefaults(); // with the text that was being typed

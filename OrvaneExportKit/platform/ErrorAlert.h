@@ -6,7 +6,10 @@
 
 namespace platform {
 
-/// How an error that the kit cannot hand back as a result reaches the user.
+/// How an error that the kit cannot hand back as a result reaches the user: one in the saved settings, and one in what
+/// a control does when it is painted, clicked or told of a change, where no call of the program could throw it. Of
+/// these, each is told once, when the event loop is back, and in painting not again before the control shows something
+/// else.
 ///
 /// A host with windows sets an object that shows a modal alert. A test, a command-line program or an author sets one
 /// that receives the errors as values. Without any, nothing is shown, and `lastError` still names the last one.

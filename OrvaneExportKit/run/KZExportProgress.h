@@ -45,7 +45,8 @@ public:
     /// The same, owned by the caller.
     static std::unique_ptr<KZExportProgress> initWithWindow(QWidget *window, qint32 steps);
 
-    /// Posts the notification. Neither hides the sheet nor changes anything.
+    /// Posts the notification. Neither hides the sheet nor changes anything. Throws what an observer throws; what one
+    /// throws after a click on the button goes to `platform::alertError`.
     void abortExport(const QObject *sender);
 
     /// Shows the sheet and returns at once. Until `hideSheet`, no other window of the application takes input.

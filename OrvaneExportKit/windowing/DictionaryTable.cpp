@@ -138,7 +138,7 @@ void DictionaryTable::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
-        setTexts();
+        guardedDisplay(*this, [this] { setTexts(); });
     }
 }
 

@@ -113,7 +113,8 @@ FontPanel::FontPanel()
 
     connectControls();
     rememberFocus(QApplication::focusWidget());
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget * /*old*/, QWidget *now) { rememberFocus(now); });
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget * /*old*/, QWidget *now) { guardedDisplay(*this, [this, now] { rememberFocus(now); }); });
 }
 
 /// What the user changes goes to other objects, which may refuse it.
@@ -199,7 +200,7 @@ void FontPanel::setTexts()
 void FontPanel::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
-        setTexts();
+        guardedDisplay(*this, [this] { setTexts(); });
     }
     QDialog::changeEvent(event);
 }

@@ -190,7 +190,7 @@ bool ModalLoop::eventFilter(QObject *receiver, QEvent *event)
     }
     if (event->type() == QEvent::Quit && receiver == QCoreApplication::instance()) {
         event->ignore();
-        holdBackQuit();
+        guardedAction(*this, [this] { holdBackQuit(); });
         return true;
     }
     const auto *closed = event->type() == QEvent::Close ? qobject_cast<QWindow *>(receiver) : nullptr;
