@@ -5,6 +5,8 @@ cd "$(dirname "$0")/.."
 . scripts/packages.sh
 
 install_packages "${build_packages[@]}" "${test_packages[@]}"
+# Without a standard input, programs would take the next file that they open for it.
+exec </dev/null
 export QT_QPA_PLATFORM=offscreen
 # One cache serves checkouts in any folder.
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1

@@ -1,11 +1,10 @@
 #include <tests/end_to_end/DroppedUser.h>
 #include <tests/end_to_end/Files.h>
+#include <tests/support/ChildProcess.h>
 
+#include <QtCore/QDirIterator>
 #include <QtCore/QFile>
 #include <QtCore/QProcessEnvironment>
-
-#include <grp.h>
-#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,19 +16,11 @@ constexpr QFileDevice::Permissions everyoneMayRead = QFileDevice::ReadOwner | QF
                                                      QFileDevice::ReadGroup | QFileDevice::ExeGroup |
                                                      QFileDevice::ReadOther | QFileDevice::ExeOther;
 
-void becomeNobody()
-{
-    constexpr unsigned nobody = 65534;
-    if (geteuid() == 0 && (setgroups(0, nullptr) != 0 || setgid(nobody) != 0 || setuid(nobody) != 0)) {
-        _exit(127);
-    }
-}
-
 } // namespace
 
 DroppedUser::DroppedUser()
 {
-    for (const QString &file : {hostProgram, coreLibrary, plainTextPlugin}) {
+    for (const QString &file : kitLibraries + QStringList{hostProgram, plainTextPlugin}) {
         copyInto(m_folder.path(), file);
     }
     makePublic(m_folder.path());
@@ -40,9 +31,11 @@ HostResult DroppedUser::runHost(const QStringList &arguments) const
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"LD_LIBRARY_PATH"_s, m_folder.path());
     environment.insert(u"ORVANE_PLUGIN_PATH"_s, m_folder.path());
+    environment.insert(u"ORVANE_DEFAULTS_FOLDER"_s, m_folder.filePath(u"defaults"_s));
     QProcess process;
     process.setProcessEnvironment(environment);
-    process.setChildProcessModifier(becomeNobody);
+    process.setWorkingDirectory(m_folder.path());
+    process.setChildProcessModifier(support::becomeNobody);
     process.start(m_folder.filePath(u"orvane-host"_s), arguments);
     return finished(process);
 }
@@ -54,7 +47,12 @@ void makeReadOnly(const QString &folder)
 
 void makePublic(const QString &folder)
 {
-    EXPECT_TRUE(QFile::setPermissions(folder, everyoneMayRead | QFileDevice::WriteOwner));
+    constexpr QFileDevice::Permissions permissions = everyoneMayRead | QFileDevice::WriteOwner;
+    EXPECT_TRUE(QFile::setPermissions(folder, permissions));
+    QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        EXPECT_TRUE(QFile::setPermissions(entries.next(), permissions));
+    }
 }
 
 } // namespace end_to_end

@@ -7,7 +7,12 @@ namespace end_to_end {
 
 const QString hostProgram = QStringLiteral(HOST_PROGRAM);
 const QString plainTextPlugin = QStringLiteral(PLAIN_TEXT_PLUGIN);
-const QString coreLibrary = QStringLiteral(CORE_LIBRARY);
+const QStringList kitLibraries{
+    QStringLiteral(CORE_LIBRARY),
+#ifdef WINDOWS_LIBRARY
+    QStringLiteral(WINDOWS_LIBRARY),
+#endif
+};
 const QString testPluginFolder = QStringLiteral(TEST_PLUGIN_FOLDER);
 const QString faultsLibrary = QStringLiteral(FAULTS_LIBRARY);
 const QString manuscriptsFolder = QStringLiteral(MANUSCRIPTS_FOLDER);

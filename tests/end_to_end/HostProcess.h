@@ -11,7 +11,7 @@ namespace end_to_end {
 // Where the build has put things.
 extern const QString hostProgram;
 extern const QString plainTextPlugin;
-extern const QString coreLibrary;
+extern const QStringList kitLibraries; ///< the files that a program loads
 extern const QString testPluginFolder;
 extern const QString faultsLibrary;
 extern const QString manuscriptsFolder;

@@ -2,6 +2,8 @@
 # in them. `scripts/package.sh --try` installs them with apt.
 include("${CMAKE_CURRENT_LIST_DIR}/Steps.cmake")
 
+# CPack packs no files below a folder whose name the locale cannot spell.
+set(ENV{LC_ALL} C.UTF-8)
 file(REMOVE_RECURSE "${WORK_FOLDER}")
 run("${CPACK}" --config "${BUILD_FOLDER}/CPackConfig.cmake" -B "${WORK_FOLDER}/packages")
 set(system "${WORK_FOLDER}/system")

@@ -44,10 +44,12 @@ endif()
 # By pkg-config.
 function(make target)
     run("${CMAKE_COMMAND}" -E env "PKG_CONFIG_PATH=${kit}/${LIBRARY_FOLDER}/pkgconfig" "CXX=${COMPILER}"
-        "CXXFLAGS=${flags}" "SOURCES=${CMAKE_CURRENT_LIST_DIR}"
+        "CXXFLAGS=${flags}" SOURCES=../sources
         make -C "${WORK_FOLDER}/make" -f "${CMAKE_CURRENT_LIST_DIR}/make/Makefile" ${target})
 endfunction()
 file(MAKE_DIRECTORY "${WORK_FOLDER}/make")
+# Copies, because Make knows no names with spaces, which the folder around the sources may have.
+file(COPY "${CMAKE_CURRENT_LIST_DIR}/plugin" "${CMAKE_CURRENT_LIST_DIR}/windows" DESTINATION "${WORK_FOLDER}/sources")
 make(all)
 if(WITH_WINDOWS)
     make(windows)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QFileInfo>
 #include <QtCore/QMap>
 #include <QtCore/QProcessEnvironment>
 #include <QtCore/QString>
@@ -32,7 +33,10 @@ namespace support {
 /// Lets a program with this environment meet the faults.
 inline void insertFaults(QProcessEnvironment &environment, const QString &folder, const QMap<QString, QString> &faults)
 {
-    environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(FAULTS_LIBRARY));
+    // By its name, because a space ends a path in LD_PRELOAD.
+    const QFileInfo library(QStringLiteral(FAULTS_LIBRARY));
+    environment.insert(QStringLiteral("LD_PRELOAD"), library.fileName());
+    environment.insert(QStringLiteral("LD_LIBRARY_PATH"), library.path());
     environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("verify_asan_link_order=0"));
     environment.insert(QStringLiteral("ORVANE_FAULT_FOLDER"), folder);
     for (auto fault = faults.begin(); fault != faults.end(); ++fault) {

@@ -59,6 +59,11 @@ class FontPanelTest : public testing::Test
 protected:
     void SetUp() override
     {
+        for (const QString &style : {u"Bold"_s, u"Bold Oblique"_s}) {
+            ASSERT_TRUE(QFontDatabase::styles(u"DejaVu Sans"_s).contains(style))
+                << "DejaVu Sans is not installed in the style " << testing::PrintToString(style)
+                << ": install Debian's packages fonts-dejavu-core and fonts-dejavu-extra";
+        }
         auto *layout = new QVBoxLayout(&window);
         layout->addWidget(editor);
         auto *editorLayout = new QVBoxLayout(editor);
