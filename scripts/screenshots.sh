@@ -6,6 +6,7 @@ cd "$(dirname "$0")/.."
 . scripts/packages.sh
 
 install_packages "${build_packages[@]}" xvfb openbox xdotool imagemagick fonts-dejavu-core qt6-translations-l10n python3
+mkdir -p build
 cmake --preset release -B build/demo -DORVANE_BUILD_TESTS=OFF -DCMAKE_CXX_COMPILER_LAUNCHER=ccache >build/demo.log
 cmake --build build/demo
 pictures=build/demo/pictures

@@ -1,18 +1,20 @@
 #!/usr/bin/env bash
 # Installs Debian's packages into a fresh system and builds, exports and runs there what a user would:
 # try_packages.sh FOLDER-OF-PACKAGES FOLDER-OF-SYSTEM. Has to be run as root.
+# shellcheck disable=SC2016 # what stands in single quotes is for the shell in the system
 set -euo pipefail
+tests=$(dirname "$0")
+# shellcheck source=scripts/fresh_system.sh
+. "$tests/../../scripts/fresh_system.sh"
+mount_for_oneself "$@"
 packages=$1
 system=$2
-tests=$(dirname "$0")
 
-rm -rf "$system"
-mmdebstrap --quiet --variant=minbase --include=ca-certificates bookworm "$system"
+make_system "$system" ca-certificates
 mkdir "$system/packages" "$system/install"
 cp "$packages"/*.deb "$system/packages"
 cp -R "$tests/plugin" "$tests/windows" "$tests/make" "$tests/manuscript" "$system/install"
-mount --bind /proc "$system/proc"
-trap 'umount "$system/proc"' EXIT
+mount_system "$system"
 
 # Runs a script in the system.
 inside() {
