@@ -20,4 +20,14 @@ TEST_F(LengthField, ShowsTheUsersUnitBehindTheNumber)
     EXPECT_EQ(windowing::LengthField().suffix(), u" in"_s);
 }
 
+TEST_F(LengthField, GoesInStepsOfATenthFromNothingTo9999)
+{
+    windowing::LengthField field;
+    EXPECT_EQ(field.value(), 0.0);
+    field.stepUp();
+    EXPECT_EQ(field.value(), 0.1);
+    field.setValue(1000.0);
+    EXPECT_EQ(field.value(), 99.99);
+}
+
 } // namespace

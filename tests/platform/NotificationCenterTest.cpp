@@ -5,6 +5,7 @@
 
 #include <QtCore/QStringList>
 
+#include <memory>
 #include <optional>
 
 namespace {
@@ -107,14 +108,36 @@ TEST_F(NotificationCenterTest, LetsObserversPostInTheirTurn)
     EXPECT_EQ(m_notes, (QStringList{u"finished"_s, u"aborted"_s}));
 }
 
-TEST(NotificationCenter, IsOutlivedByItsObservers)
+TEST(NotificationCenter, IsOutlivedByItsObserversWhichGoWithTheirObservations)
 {
+    const auto held = std::make_shared<int>();
     Observation observation;
     {
         NotificationCenter center;
-        observation = center.addObserver(u"Aborted"_s, nullptr, [](const Notification &) {});
+        observation = center.addObserver(u"Aborted"_s, nullptr, [held](const Notification &) {});
     }
+    EXPECT_EQ(held.use_count(), 2) << "the observation keeps its handler";
     observation = {};
+    EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_F(NotificationCenterTest, ReleasesAHandlerAsSoonAsItsObservationEnds)
+{
+    const auto held = std::make_shared<int>();
+    Observation observation = m_center.addObserver(u"Aborted"_s, nullptr, [held](const Notification &) {});
+    observation = {};
+    EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_F(NotificationCenterTest, TellsObserversInTheOrderInWhichTheyCame)
+{
+    const Observation first = m_center.addObserver(u"Aborted"_s, nullptr, note(u"first"_s));
+    Observation second = m_center.addObserver(u"Aborted"_s, &m_first, note(u"second"_s));
+    const Observation third = m_center.addObserver(u"Aborted"_s, nullptr, note(u"third"_s));
+    second = {};
+    const Observation fourth = m_center.addObserver(u"Aborted"_s, &m_first, note(u"fourth"_s));
+    m_center.postNotificationName(u"Aborted"_s, &m_first);
+    EXPECT_EQ(m_notes, (QStringList{u"first"_s, u"third"_s, u"fourth"_s}));
 }
 
 } // namespace

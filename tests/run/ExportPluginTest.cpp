@@ -36,6 +36,32 @@ TEST(ExportPluginChoices, ThatAreMissingAreStoredAndTheOthersStay)
               (QVariantMap{{u"size"_s, 14.5F}, {u"tag"_s, u"#"_s}, {u"unknown"_s, u"kept"_s}}));
 }
 
+TEST(ExportPluginChoices, ThatAreEmptyAreNotMissing)
+{
+    TwoChoicesPlugin plugin;
+    plugin.settings().setObject(u""_s, u"size"_s);
+    plugin.storeMissingChoices();
+    EXPECT_EQ(plugin.settings().objectForKey(u"size"_s), u""_s);
+}
+
+TEST(ExportPluginChoices, ThatAreStoredAreToldToObservers)
+{
+    TwoChoicesPlugin plugin;
+    plugin.settings().setObject(14, u"size"_s);
+    QStringList changed;
+    QObject::connect(&plugin.settings(), &KZExportSettings::didChangeValueForKey,
+                     [&changed](const QString &key) { changed.append(key); });
+    plugin.storeMissingChoices();
+    EXPECT_EQ(changed, QStringList{u"tag"_s});
+}
+
+TEST(ExportPluginFiles, AreThoseOfTheDocumentsAloneUnlessThePluginAddsSome)
+{
+    const TwoChoicesPlugin plugin;
+    EXPECT_EQ(plugin.additionalFileNames(), QStringList());
+    EXPECT_EQ(plugin.additionalFileData(u"index.html"_s, u"Title"_s, {}), QByteArray());
+}
+
 TEST(ExportPluginBundle, IsNoneUnlessThePluginHasOne)
 {
     EXPECT_TRUE(TwoChoicesPlugin().bundle().isNull());

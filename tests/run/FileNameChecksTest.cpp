@@ -94,6 +94,15 @@ TEST_F(ExistingPaths, AreNoneWhenNothingIsThere)
     EXPECT_EQ(found(existingPaths({})), QStringList());
 }
 
+TEST_F(ExistingPaths, AreThoseOfLinksThatLeadNowhere)
+{
+    const QString link = path(u"link"_s);
+    if (!QFile::link(path(u"missing"_s), link)) {
+        GTEST_SKIP() << "this file system has no links";
+    }
+    EXPECT_EQ(found(existingPaths({path(u"missing"_s), link})), QStringList(u"1: "_s + link));
+}
+
 TEST_F(ExistingPaths, SayWhetherAFileOrAFolderIsThere)
 {
     const QList<PathFinding> findings = existingPaths({createdFile(u"a.txt"_s), path(u"."_s)});
@@ -153,13 +162,14 @@ TEST(RefusedNames, AreDeviceNamesInAnyCaseAndWithAnyExtension)
         EXPECT_FALSE(refusal(name.toLower()).isEmpty()) << name.toStdString();
         EXPECT_FALSE(refusal(name + u".txt"_s).isEmpty()) << name.toStdString();
         EXPECT_FALSE(refusal(name + u".tar.gz"_s).isEmpty()) << name.toStdString();
+        EXPECT_FALSE(refusal(name + u" .txt"_s).isEmpty()) << name.toStdString();
     }
 }
 
 TEST(RefusedNames, AreNoNamesThatOnlyBeginOrEndLikeADeviceName)
 {
-    for (const QString &name : {u"CONSOLE"_s, u"COM10"_s, u"COM"_s, u"LPT"_s, u"LPT12.txt"_s, u"a.con"_s, u"falcon"_s,
-                                u"my CON"_s, u"CON 1"_s, u"COM1a.txt"_s}) {
+    for (const QString &name : {u"CONSOLE"_s, u"COM10"_s, u"COM"_s, u"LPT"_s, u"COM0"_s, u"LPT0.txt"_s, u"LPT12.txt"_s,
+                                u"a.con"_s, u"falcon"_s, u"my CON"_s, u"CON 1"_s, u"COM1a.txt"_s}) {
         EXPECT_EQ(refusal(name), QString()) << name.toStdString();
     }
 }

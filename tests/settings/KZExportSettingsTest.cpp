@@ -337,6 +337,7 @@ TEST_F(ExportSettings, ReadAStringInTheRangeOfEachType)
     EXPECT_EQ(settings.floatForKey(u"a"_s), 3e9F);
     EXPECT_EQ(settings.unsignedIntegerForKey(u"a"_s), 3'000'000'000U);
     EXPECT_EQ(settings.integerForKey(u"a"_s), 2'147'483'647);
+    settings.setObject(u"300"_s, u"a"_s);
     EXPECT_EQ(settings.unsignedCharForKey(u"a"_s), 255);
     EXPECT_EQ(settings.charForKey(u"a"_s), 127);
 }
