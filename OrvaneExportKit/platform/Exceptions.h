@@ -80,7 +80,7 @@ ORVANE_CORE_EXPORT void requireRange(const char *operation, Range range, std::si
 
 /// Throws a `RangeException` unless a list of `listLength` elements has one at `index`.
 ///
-///     requireIndex("displayString", 2, 2);   // "displayString: the index 2 lies outside a list of 2"
+///     requireIndex("displayString", 2, 2);   // throws "displayString: the index 2 lies outside a list of 2"
 ORVANE_CORE_EXPORT void requireIndex(const char *operation, std::ptrdiff_t index, std::size_t listLength);
 
 } // namespace platform
