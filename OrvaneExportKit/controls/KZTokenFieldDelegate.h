@@ -37,7 +37,7 @@ public:
 
     /// The columns of the table: the display string at an index belongs to the represented object at that index. They
     /// are to have the same length; a look-up that finds a string at an index that the other list lacks throws
-    /// `platform::RangeException`.
+    /// `platform::RangeException`. A token field then shows the object itself, and the error once.
     const QStringList &displayStrings() const { return m_displayStrings; }
     void setDisplayStrings(const QStringList &displayStrings);
     const QStringList &representedObjects() const { return m_representedObjects; }

@@ -28,9 +28,6 @@ void CompletionList::showStrings(const QStringList &strings, int highlighted, co
     constexpr int mostRows = 8;
     m_strings.setStringList(strings);
     setCurrentIndex(m_strings.index(highlighted));
-    if (!currentIndex().isValid()) {
-        clearSelection();
-    }
 
     const int rows = std::min(mostRows, static_cast<int>(strings.size()));
     const bool scrolls = rows < strings.size();
@@ -53,13 +50,12 @@ void CompletionList::showStrings(const QStringList &strings, int highlighted, co
 void CompletionList::moveHighlight(int rows)
 {
     const int count = m_strings.rowCount();
-    const int from = currentIndex().isValid() ? currentIndex().row() : (rows > 0 ? -1 : count);
-    setCurrentIndex(m_strings.index((from + rows + count) % count));
+    setCurrentIndex(m_strings.index((currentIndex().row() + rows + count) % count));
 }
 
 QString CompletionList::highlightedString() const
 {
-    return isVisible() ? currentIndex().data().toString() : QString();
+    return currentIndex().data().toString();
 }
 
 } // namespace windowing

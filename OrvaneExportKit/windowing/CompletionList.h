@@ -16,16 +16,13 @@ public:
     explicit CompletionList(QWidget *editor);
 
     /// Shows the strings below (or, where there is no room, above) a rectangle of the screen, from where lines start in
-    /// it, with one of them highlighted, or none for -1.
+    /// it, with one of them highlighted.
     void showStrings(const QStringList &strings, int highlighted, const QRect &place);
 
     /// Moves the highlight by some rows, around the ends.
     void moveHighlight(int rows);
 
-    /// The highlighted string, or a null one.
     QString highlightedString() const;
-
-    QString firstString() const { return m_strings.stringList().value(0); }
 
 Q_SIGNALS:
     void picked(const QString &string); ///< clicked by the user

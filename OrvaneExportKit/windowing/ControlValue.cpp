@@ -42,6 +42,28 @@ private:
     Binding &m_binding;
 };
 
+/// Commits a binding when something has been dropped on the widget that a text is typed in. A drop is an edit that ends
+/// at once, also where the focus is elsewhere and will not leave.
+class DropFilter final : public QObject
+{
+public:
+    DropFilter(QWidget &receiver, Binding &binding) : QObject(&binding), m_binding(binding)
+    {
+        receiver.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Drop) {
+            QMetaObject::invokeMethod(&m_binding, &Binding::commitEdit, Qt::QueuedConnection); // when it has been taken
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    Binding &m_binding;
+};
+
 /// A Qt property.
 class PropertyValue : public ControlValue
 {
@@ -56,7 +78,11 @@ public:
     {
         if (isTextOfEditor()) {
             m_control.installEventFilter(new FocusOutFilter(binding));
+            new DropFilter(*static_cast<QAbstractScrollArea &>(m_control).viewport(), binding);
             return;
+        }
+        if (isTextOfField()) {
+            new DropFilter(m_control, binding);
         }
         if (changed().isValid()) {
             const QMetaObject &receiver = Binding::staticMetaObject;
@@ -215,6 +241,7 @@ public:
         QObject::connect(&m_comboBox, &QComboBox::activated, &binding, &Binding::commitEdit);
         if (m_comboBox.isEditable()) {
             QObject::connect(m_comboBox.lineEdit(), &QLineEdit::editingFinished, &binding, &Binding::commitEdit);
+            new DropFilter(*m_comboBox.lineEdit(), binding);
         }
     }
 

@@ -29,20 +29,46 @@ QColor mixed(const QColor &over, const QColor &under, float share)
                             mix(over.blueF(), under.blueF()));
 }
 
-/// Draws a chip over the height of a line, as a tint on the ground.
-void drawChip(QPainter &painter, const QRectF &line, const QString &text, const QFont &font, const QColor &ground,
-              const QColor &tint, const QColor &textColor)
+struct Colors {
+    QColor ground;
+    QColor tint;
+    QColor text;
+};
+
+void drawChip(QPainter &painter, const QRectF &line, const Colors &colors)
 {
     const QRectF chip = line.adjusted(gap, -0.5, -gap, 0.5);
-    painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(mixed(tint, ground, 0.55F));
-    painter.setBrush(mixed(tint, ground, 0.18F));
+    painter.setPen(mixed(colors.tint, colors.ground, 0.55F));
+    painter.setBrush(mixed(colors.tint, colors.ground, 0.18F));
     painter.drawRoundedRect(chip, chip.height() / 2.0, chip.height() / 2.0);
+}
+
+/// Draws a token or a sign over the height of a line.
+void draw(QPainter &painter, const QRectF &line, const QString &text, bool isChip, const QFont &font,
+          const Colors &colors)
+{
+    painter.save();
+    if (isChip) {
+        drawChip(painter, line, colors);
+    }
     painter.setFont(font);
-    painter.setPen(textColor);
+    painter.setPen(isChip ? colors.text : mixed(colors.text, colors.ground, 0.55F));
     painter.drawText(line, Qt::AlignCenter | Qt::TextSingleLine, text);
     painter.restore();
+}
+
+/// What is shown for a character that a line cannot hold.
+QString signFor(QChar character)
+{
+    const bool endsLine = character == u'\n' || character == u'\r' || character == QChar::LineSeparator ||
+                          character == QChar::ParagraphSeparator;
+    return endsLine ? QString(QChar(0x21B5)) : QString(QChar::ReplacementCharacter);
+}
+
+bool isChip(const QTextFormat &format)
+{
+    return format.objectType() == tokenObjectType;
 }
 
 } // namespace
@@ -54,35 +80,41 @@ TokenChip::TokenChip(TokenEditor &editor) : QObject(&editor), m_editor(editor)
 QSizeF TokenChip::intrinsicSize(QTextDocument * /*document*/, int /*position*/, const QTextFormat &format)
 {
     const QFontMetricsF metrics(m_editor.font());
-    const QString text = m_editor.displayString(representedObject(format));
-    return {metrics.horizontalAdvance(text) + 2.0 * (padding(metrics) + gap), metrics.ascent()};
+    const double sides = isChip(format) ? 2.0 * (padding(metrics) + gap) : 0.0;
+    return {metrics.horizontalAdvance(textOf(format)) + sides, metrics.ascent()};
 }
 
 void TokenChip::drawObject(QPainter *painter, const QRectF &rect, QTextDocument * /*document*/, int position,
                            const QTextFormat &format)
 {
-    const QString text = m_editor.displayString(representedObject(format));
     const QRectF line = rect.adjusted(0.0, 0.0, 0.0, QFontMetricsF(m_editor.font()).descent());
     const QTextCursor cursor = m_editor.textCursor();
     if (position >= cursor.selectionStart() && position < cursor.selectionEnd()) {
-        m_selectedChips.append({painter->worldTransform().mapRect(line), text});
+        m_selection.append({painter->worldTransform().mapRect(line), textOf(format), isChip(format)});
         return;
     }
     const QPalette &palette = m_editor.palette();
-    drawChip(*painter, line, text, m_editor.font(), palette.color(QPalette::Base), palette.color(QPalette::Highlight),
-             palette.color(QPalette::Text));
+    draw(*painter, line, textOf(format), isChip(format), m_editor.font(),
+         {palette.color(QPalette::Base), palette.color(QPalette::Highlight), palette.color(QPalette::Text)});
 }
 
-void TokenChip::drawSelectedChips(QPainter &painter)
+void TokenChip::drawSelection(QPainter &painter)
 {
     const QPalette &palette = m_editor.palette();
-    const QColor highlight = palette.color(QPalette::Highlight);
-    const QColor text = palette.color(QPalette::HighlightedText);
-    for (const SelectedChip &chip : std::as_const(m_selectedChips)) {
-        painter.fillRect(chip.line, highlight);
-        drawChip(painter, chip.line, chip.text, m_editor.font(), highlight, text, text);
+    const QPalette::ColorGroup group = m_editor.selectionColors();
+    const QColor highlight = palette.color(group, QPalette::Highlight);
+    const QColor text = palette.color(group, QPalette::HighlightedText);
+    for (const Object &object : std::as_const(m_selection)) {
+        painter.fillRect(object.line, highlight);
+        draw(painter, object.line, object.text, object.isChip, m_editor.font(), {highlight, text, text});
     }
-    m_selectedChips.clear();
+    m_selection.clear();
+}
+
+QString TokenChip::textOf(const QTextFormat &format) const
+{
+    return isChip(format) ? m_editor.vocabulary().displayString(representedObject(format))
+                          : signFor(heldCharacter(format));
 }
 
 } // namespace windowing

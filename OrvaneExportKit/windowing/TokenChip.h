@@ -10,8 +10,9 @@ namespace windowing {
 
 class TokenEditor;
 
-/// Draws the tokens of an editor as rounded chips. A document stands its objects on the baseline, so a chip takes the
-/// room above it and is drawn down to where letters reach; its text then has the baseline of the text beside it.
+/// Draws the tokens of an editor as rounded chips, and a pale sign for each character that a line cannot hold. A
+/// document stands its objects on the baseline, so they take the room above it and are drawn down to where letters
+/// reach; their text then has the baseline of the text beside it.
 class TokenChip final : public QObject, public QTextObjectInterface
 {
     Q_OBJECT
@@ -24,18 +25,21 @@ public:
     void drawObject(QPainter *painter, const QRectF &rect, QTextDocument *document, int position,
                     const QTextFormat &format) override;
 
-    /// Draws the chips of the selection, which a document would paint its highlight over. To be called when the
-    /// document has been drawn.
-    void drawSelectedChips(QPainter &painter);
+    /// Draws what is selected, which a document would paint its highlight over. To be called when the document has been
+    /// drawn.
+    void drawSelection(QPainter &painter);
 
 private:
-    struct SelectedChip {
+    struct Object {
         QRectF line; ///< in the viewport
         QString text;
+        bool isChip;
     };
 
+    QString textOf(const QTextFormat &format) const;
+
     TokenEditor &m_editor;
-    QList<SelectedChip> m_selectedChips;
+    QList<Object> m_selection;
 };
 
 } // namespace windowing

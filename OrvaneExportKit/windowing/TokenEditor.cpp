@@ -1,11 +1,14 @@
 #include <OrvaneExportKit/windowing/TokenEditor.h>
 
 #include <OrvaneExportKit/windowing/CompletionList.h>
+#include <OrvaneExportKit/windowing/EventGuard.h>
 #include <OrvaneExportKit/windowing/TokenChip.h>
 #include <OrvaneExportKit/windowing/TokenField.h>
+#include <OrvaneExportKit/windowing/TokenMenus.h>
+#include <OrvaneExportKit/windowing/TokenMimeData.h>
 
-#include <QtCore/QDataStream>
 #include <QtCore/QMimeData>
+#include <QtCore/QSignalBlocker>
 #include <QtGui/QAbstractTextDocumentLayout>
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QKeyEvent>
@@ -15,61 +18,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <memory>
+#include <optional>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace windowing {
 
 namespace {
-
-/// How copied tokens travel from one field to another.
-QString piecesFormat()
-{
-    return u"application/x-orvane-token-pieces"_s;
-}
-
-QByteArray dataOfPieces(const QList<TokenPiece> &pieces)
-{
-    QByteArray data;
-    QDataStream stream(&data, QIODevice::WriteOnly);
-    stream.setVersion(QDataStream::Qt_6_4);
-    for (const TokenPiece &piece : pieces) {
-        stream << piece.isToken << piece.text;
-    }
-    return data;
-}
-
-/// The text in one line, without the characters that stand for tokens.
-QString oneLine(QString text)
-{
-    text.remove(QChar::ObjectReplacementCharacter);
-    text.replace("\r\n"_L1, " "_L1);
-    for (QChar &character : text) {
-        if (character == u'\n' || character == u'\r' || character == QChar::ParagraphSeparator ||
-            character == QChar::LineSeparator) {
-            character = u' ';
-        }
-    }
-    return text;
-}
-
-QList<TokenPiece> piecesOfData(const QByteArray &data)
-{
-    QList<TokenPiece> pieces;
-    QDataStream stream(data);
-    stream.setVersion(QDataStream::Qt_6_4);
-    while (!stream.atEnd()) {
-        TokenPiece piece{};
-        stream >> piece.isToken >> piece.text;
-        if (stream.status() != QDataStream::Ok) {
-            return {};
-        }
-        piece.text = piece.isToken ? piece.text : oneLine(piece.text);
-        pieces.append(piece);
-    }
-    return pieces;
-}
 
 /// A height that keeps the baseline where it is, whether there are chips, letters of other fonts or nothing in the
 /// line: documents put it at four fifths of a fixed line height.
@@ -84,10 +40,31 @@ bool isReturn(const QKeyEvent &event)
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
+bool isUndoOrRedo(const QKeyEvent &event)
+{
+    return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
+}
+
+bool continuesWord(const QString &text, qsizetype position)
+{
+    return position > 0 && position < text.size() && text[position - 1].isLetterOrNumber() &&
+           text[position].isLetterOrNumber();
+}
+
+/// Where the completion stands that is highlighted when a list opens: the one that the delegate says, or the one that
+/// has been typed in full already, or the first one.
+int firstHighlight(const QStringList &completions, int ofDelegate, const QString &typed)
+{
+    if (ofDelegate >= 0 && ofDelegate < completions.size()) {
+        return ofDelegate;
+    }
+    return static_cast<int>(std::max<qsizetype>(completions.indexOf(typed), 0));
+}
+
 } // namespace
 
 TokenEditor::TokenEditor(TokenField &field)
-    : QTextEdit(&field), m_field(field), m_list(new CompletionList(this)), m_chip(new TokenChip(*this))
+    : QTextEdit(&field), m_vocabulary(field), m_list(new CompletionList(this)), m_chip(new TokenChip(*this))
 {
     setFrameShape(NoFrame);
     setAcceptRichText(false);
@@ -98,25 +75,56 @@ TokenEditor::TokenEditor(TokenField &field)
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     viewport()->setAutoFillBackground(false);
     document()->setDocumentMargin(2.0);
-    document()->documentLayout()->registerHandler(tokenObjectType, m_chip);
+    for (const int type : {tokenObjectType, heldCharacterObjectType}) {
+        document()->documentLayout()->registerHandler(type, m_chip);
+    }
     adoptFont();
     // The field shows its one line and nothing above or below it.
     connect(verticalScrollBar(), &QScrollBar::valueChanged, verticalScrollBar(),
             [this] { verticalScrollBar()->setValue(0); });
     // Chips reach below the line where there is nothing but chips.
     connect(this, &QTextEdit::selectionChanged, viewport(), qOverload<>(&QWidget::update));
-    connect(m_list, &CompletionList::picked, this, &TokenEditor::takeCompletion);
+    connect(m_list, &CompletionList::picked, this,
+            [this](const QString &displayString) { guardedAction(*parent(), [&] { takeCompletion(displayString); }); });
+    connect(this, &QTextEdit::textChanged, this, &TokenEditor::takeChange);
 }
 
 void TokenEditor::setPieces(const QList<TokenPiece> &pieces)
 {
     hideCompletions();
+    m_typedEnd = {};
+    const QSignalBlocker blocker(this);
     setUndoRedoEnabled(false);
     QTextCursor cursor(document());
     cursor.select(QTextCursor::Document);
     insertPieces(cursor, pieces);
     setTextCursor(cursor);
     setUndoRedoEnabled(true);
+    document()->setModified(false);
+    m_pieces = tokenPieces(*document());
+}
+
+void TokenEditor::insertTyped(const QString &displayString)
+{
+    QTextCursor cursor = textCursor();
+    insertPieces(cursor, {m_vocabulary.pieceForTyped(displayString)});
+    setTextCursor(cursor);
+    ensureCursorVisible();
+    m_typedEnd = {};
+}
+
+void TokenEditor::undoStep()
+{
+    hideCompletions();
+    m_typedEnd = {}; // what has been a token is to stay text
+    undo();
+}
+
+void TokenEditor::redoStep()
+{
+    hideCompletions();
+    m_typedEnd = {};
+    redo();
 }
 
 void TokenEditor::adoptFont()
@@ -129,38 +137,37 @@ void TokenEditor::adoptFont()
     document()->markContentsDirty(0, document()->characterCount());
 }
 
-QString TokenEditor::displayString(const QString &representedObject) const
-{
-    const TokenFieldDelegate *delegate = m_field.delegate();
-    return delegate != nullptr ? delegate->displayStringForRepresentedObject(&m_field, representedObject)
-                               : representedObject;
-}
-
-QString TokenEditor::displayText(const QList<TokenPiece> &pieces) const
-{
-    QString text;
-    for (const TokenPiece &piece : pieces) {
-        text += piece.isToken ? displayString(piece.text) : piece.text;
-    }
-    return text;
-}
-
-bool TokenEditor::isKnownToken(const QString &representedObject) const
-{
-    const QString shown = displayString(representedObject);
-    return shown != representedObject || completionsFor(shown).contains(shown);
-}
-
 int TokenEditor::lineHeight() const
 {
     return static_cast<int>(std::ceil(fixedLineHeight(font()) + 2.0 * document()->documentMargin()));
 }
 
+QPalette::ColorGroup TokenEditor::selectionColors() const
+{
+    if (!isEnabled()) {
+        return QPalette::Disabled;
+    }
+    return m_hasKeyboard ? QPalette::Active : QPalette::Inactive;
+}
+
+bool TokenEditor::event(QEvent *event)
+{
+    bool isHandled = true;
+    guardedAction(*parent(), [&] { isHandled = QTextEdit::event(event); });
+    return isHandled;
+}
+
+bool TokenEditor::viewportEvent(QEvent *event)
+{
+    bool isHandled = true;
+    guardedAction(*parent(), [&] { isHandled = QTextEdit::viewportEvent(event); });
+    return isHandled;
+}
+
 bool TokenEditor::focusNextPrevChild(bool next)
 {
     if (next && m_list->isVisible()) {
-        const QString highlighted = m_list->highlightedString();
-        takeCompletion(highlighted.isNull() ? m_list->firstString() : highlighted);
+        takeCompletion(m_list->highlightedString());
         return true;
     }
     return QTextEdit::focusNextPrevChild(next);
@@ -172,23 +179,24 @@ void TokenEditor::keyPressEvent(QKeyEvent *event)
         return;
     }
     if (isReturn(*event)) {
-        const bool madeToken = makeTokenOfTypedText();
-        hideCompletions();
-        Q_EMIT editingFinished();
-        event->setAccepted(madeToken); // else the default button of a dialog has its turn
+        const bool madeTokens = finishEdit();
+        event->setAccepted(madeTokens); // else the default button of a dialog has its turn
+        return;
+    }
+    if (isUndoOrRedo(*event) && !isReadOnly()) {
+        event->matches(QKeySequence::Undo) ? undoStep() : redoStep();
         return;
     }
     const bool asksForList =
         event->key() == Qt::Key_Down || (event->key() == Qt::Key_Space && event->modifiers() == Qt::ControlModifier);
     if (asksForList && !isReadOnly()) {
         const Completion typed = completion();
-        showCompletions(typed.strings.isEmpty() ? Completion{textCursor().position(), completionsFor({}), -1} : typed);
+        showCompletions(typed.strings.isEmpty() ? allTokens() : typed);
         return;
     }
     const int revision = document()->revision();
     QTextEdit::keyPressEvent(event);
-    const bool hasTyped = document()->revision() != revision && !event->matches(QKeySequence::Undo) &&
-                          !event->matches(QKeySequence::Redo) && !event->matches(QKeySequence::Paste);
+    const bool hasTyped = document()->revision() != revision && !event->matches(QKeySequence::Paste);
     hasTyped ? completeTyped() : hideCompletions();
 }
 
@@ -208,9 +216,8 @@ bool TokenEditor::handleKeyOfList(const QKeyEvent &event)
     default:
         break;
     }
-    const QString highlighted = m_list->highlightedString();
-    if (isReturn(event) && !highlighted.isNull()) {
-        takeCompletion(highlighted);
+    if (isReturn(event)) {
+        takeCompletion(m_list->highlightedString());
         return true;
     }
     return false;
@@ -218,7 +225,10 @@ bool TokenEditor::handleKeyOfList(const QKeyEvent &event)
 
 void TokenEditor::inputMethodEvent(QInputMethodEvent *event)
 {
-    QTextEdit::inputMethodEvent(event);
+    QInputMethodEvent line(event->preeditString(), event->attributes());
+    line.setCommitString(oneLine(event->commitString()), event->replacementStart(), event->replacementLength());
+    QTextEdit::inputMethodEvent(&line);
+    event->setAccepted(line.isAccepted());
     if (!event->preeditString().isEmpty()) {
         hideCompletions(); // it is the input method's turn to offer something
     } else if (!event->commitString().isEmpty()) {
@@ -228,6 +238,7 @@ void TokenEditor::inputMethodEvent(QInputMethodEvent *event)
 
 void TokenEditor::focusInEvent(QFocusEvent *event)
 {
+    m_hasKeyboard = true;
     QTextEdit::focusInEvent(event);
     const bool isByKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
                          event->reason() == Qt::ShortcutFocusReason;
@@ -239,12 +250,28 @@ void TokenEditor::focusInEvent(QFocusEvent *event)
 
 void TokenEditor::focusOutEvent(QFocusEvent *event)
 {
+    m_hasKeyboard = false;
     QTextEdit::focusOutEvent(event);
     hideCompletions();
     if (event->reason() != Qt::PopupFocusReason) {
-        Q_EMIT editingFinished();
+        if (event->reason() != Qt::ActiveWindowFocusReason) {
+            clearSelection(); // as line edits do
+        }
+        finishEdit();
     }
     Q_EMIT focusChanged();
+}
+
+void TokenEditor::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() == QContextMenuEvent::Mouse) {
+        const int token = tokenAt(event->pos());
+        const QTextCursor cursor = textCursor();
+        if (token >= 0 && (token < cursor.selectionStart() || token >= cursor.selectionEnd())) {
+            selectToken(token);
+        }
+    }
+    openMenu(contextMenu(*this), event->globalPos());
 }
 
 void TokenEditor::mousePressEvent(QMouseEvent *event)
@@ -258,6 +285,15 @@ void TokenEditor::mousePressEvent(QMouseEvent *event)
         selectToken(m_pressedToken); // a drag may begin here
     }
     QTextEdit::mousePressEvent(event);
+}
+
+void TokenEditor::mouseMoveEvent(QMouseEvent *event)
+{
+    const int revision = document()->revision();
+    QTextEdit::mouseMoveEvent(event); // returns when a drag has ended
+    if (document()->revision() != revision && document()->isModified()) {
+        finishEdit(); // what was dragged away is no longer a part of the value
+    }
 }
 
 void TokenEditor::mouseReleaseEvent(QMouseEvent *event)
@@ -278,11 +314,28 @@ void TokenEditor::mouseDoubleClickEvent(QMouseEvent *event)
     }
 }
 
+void TokenEditor::dropEvent(QDropEvent *event)
+{
+    const int revision = document()->revision();
+    QTextEdit::dropEvent(event);
+    if (document()->revision() == revision) {
+        return;
+    }
+    makeTokens();
+    const QList<TokenPiece> dropped = m_pieces;
+    Q_EMIT editingFinished();
+    if (m_pieces != dropped) {
+        // It has not been taken, so it is to stay where it came from.
+        event->setDropAction(Qt::IgnoreAction);
+        event->ignore();
+    }
+}
+
 void TokenEditor::paintEvent(QPaintEvent *event)
 {
     QTextEdit::paintEvent(event);
     QPainter painter(viewport());
-    m_chip->drawSelectedChips(painter);
+    m_chip->drawSelection(painter);
 }
 
 void TokenEditor::wheelEvent(QWheelEvent *event)
@@ -294,80 +347,84 @@ QMimeData *TokenEditor::createMimeDataFromSelection() const
 {
     const QTextCursor cursor = textCursor();
     const auto pieces = tokenPieces(*document(), cursor.selectionStart(), cursor.selectionEnd());
-    auto data = std::make_unique<QMimeData>();
-    data->setText(displayText(pieces));
-    data->setData(piecesFormat(), dataOfPieces(pieces));
-    return data.release();
+    return mimeDataOfPieces(pieces, m_vocabulary.displayText(pieces)).release();
 }
 
 bool TokenEditor::canInsertFromMimeData(const QMimeData *source) const
 {
-    return source->hasText() || source->hasFormat(piecesFormat());
+    return piecesOfMimeData(*source).has_value() || !source->text().isEmpty();
 }
 
 void TokenEditor::insertFromMimeData(const QMimeData *source)
 {
     hideCompletions();
-    QTextCursor cursor = textCursor();
-    if (source->hasFormat(piecesFormat())) {
-        insertPieces(cursor, piecesOfData(source->data(piecesFormat())));
+    QStringList value;
+    if (const auto pieces = piecesOfMimeData(*source)) {
+        for (const TokenPiece &piece : *pieces) {
+            value.append(piece.text);
+        }
     } else {
-        insertPieces(cursor, {{oneLine(source->text()), false}});
+        value.append(oneLine(source->text()));
     }
+    QTextCursor cursor = textCursor();
+    insertPieces(cursor, m_vocabulary.piecesForValue(value));
     setTextCursor(cursor);
     ensureCursorVisible();
+    rememberTyped();
 }
 
-QStringList TokenEditor::completionsFor(const QString &substring, qint32 *highlighted) const
+/// The text from one position up to another, in which each token is one character.
+QString TokenEditor::textBetween(int start, int end) const
 {
-    const TokenFieldDelegate *delegate = m_field.delegate();
-    if (delegate == nullptr) {
-        return {};
-    }
-    const auto before = tokenPieces(*document(), 0, textCursor().position());
-    const auto tokens =
-        std::count_if(before.begin(), before.end(), [](const TokenPiece &piece) { return piece.isToken; });
-    qint32 unused = -1;
-    return delegate->completionsForSubstring(&m_field, substring, static_cast<qint32>(tokens),
-                                             highlighted != nullptr ? highlighted : &unused);
+    return document()->firstBlock().text().sliced(start, end - start);
 }
 
-/// Where words start between the last token and the cursor, as far back as one would type a display string.
-QList<int> TokenEditor::wordStarts() const
+/// Where words start between the last token and a position, as far back as one would type a display string.
+QList<int> TokenEditor::wordStarts(int end) const
 {
     constexpr int longestTyped = 64;
     QList<int> starts;
     const QString text = document()->firstBlock().text();
-    const int end = textCursor().position();
     for (int position = end - 1; position >= std::max(0, end - longestTyped); --position) {
-        if (isToken(*document(), position)) {
+        if (text[position] == QChar::ObjectReplacementCharacter) {
             break;
         }
-        const bool continuesWord = position > 0 && text[position - 1].isLetterOrNumber();
-        if (!text[position].isSpace() && !text[position].isLowSurrogate() && !continuesWord) {
+        if (!text[position].isSpace() && !text[position].isLowSurrogate() && !continuesWord(text, position)) {
             starts.prepend(position);
         }
     }
     return starts;
 }
 
-QString TokenEditor::textBeforeCursor(int start) const
+QStringList TokenEditor::completionsFor(const QString &substring, qint32 *highlighted) const
 {
-    return document()->firstBlock().text().sliced(start, textCursor().position() - start);
+    const auto before = tokenPieces(*document(), 0, textCursor().position());
+    const auto tokens =
+        std::count_if(before.begin(), before.end(), [](const TokenPiece &piece) { return piece.isToken; });
+    return m_vocabulary.completions(substring, tokens, highlighted);
 }
 
 TokenEditor::Completion TokenEditor::completion() const
 {
+    const int end = textCursor().position();
     if (!textCursor().hasSelection()) {
-        for (const int start : wordStarts()) {
+        for (const int start : wordStarts(end)) {
+            const QString typed = textBetween(start, end);
             qint32 highlighted = -1;
-            const QStringList strings = completionsFor(textBeforeCursor(start), &highlighted);
+            const QStringList strings = completionsFor(typed, &highlighted);
             if (!strings.isEmpty()) {
-                return {start, strings, highlighted};
+                return {start, strings, firstHighlight(strings, highlighted, typed)};
             }
         }
     }
-    return {textCursor().position(), {}, -1};
+    return {end, {}, -1};
+}
+
+TokenEditor::Completion TokenEditor::allTokens() const
+{
+    qint32 highlighted = -1;
+    const QStringList strings = completionsFor({}, &highlighted);
+    return {textCursor().position(), strings, firstHighlight(strings, highlighted, {})};
 }
 
 void TokenEditor::showCompletions(const Completion &completion)
@@ -380,13 +437,14 @@ void TokenEditor::showCompletions(const Completion &completion)
     QTextCursor start(document());
     start.setPosition(completion.start);
     const int x = viewport()->mapToGlobal(cursorRect(start).topLeft()).x();
-    QRect place(m_field.mapToGlobal(QPoint(0, 0)), m_field.size());
+    QRect place(parentWidget()->mapToGlobal(QPoint(0, 0)), parentWidget()->size());
     isRightToLeft() ? place.setRight(x) : place.setLeft(x);
     m_list->showStrings(completion.strings, completion.highlighted, place);
 }
 
 void TokenEditor::completeTyped()
 {
+    rememberTyped();
     showCompletions(completion());
 }
 
@@ -398,35 +456,81 @@ void TokenEditor::hideCompletions()
 void TokenEditor::takeCompletion(const QString &displayString)
 {
     hideCompletions();
-    replaceTyped(m_completionStart, displayString);
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(m_completionStart, QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    insertTyped(displayString);
 }
 
-/// Whether the text before the cursor was a display string, and is a token now.
-bool TokenEditor::makeTokenOfTypedText()
+void TokenEditor::takeChange()
 {
-    const TokenFieldDelegate *delegate = m_field.delegate();
-    if (delegate == nullptr || isReadOnly() || textCursor().hasSelection()) {
+    const QList<TokenPiece> pieces = tokenPieces(*document());
+    if (pieces != m_pieces) { // not only the font
+        m_pieces = pieces;
+        guardedAction(*parent(), [this] { Q_EMIT edited(); });
+    }
+}
+
+void TokenEditor::rememberTyped()
+{
+    m_typedEnd = textCursor();
+    m_typedEnd.clearSelection();
+}
+
+/// Ends the edit. Answers whether it has made tokens of text.
+bool TokenEditor::finishEdit()
+{
+    hideCompletions();
+    const bool hasMadeTokens = makeTokens();
+    Q_EMIT editingFinished();
+    return hasMadeTokens;
+}
+
+/// Makes tokens of the text that stands for some, if it has been edited, and answers whether there was any.
+bool TokenEditor::makeTokens()
+{
+    if (!document()->isModified()) {
         return false;
     }
-    for (const int start : wordStarts()) {
-        const QString typed = textBeforeCursor(start);
-        if (delegate->representedObjectForEditingString(&m_field, typed) != typed ||
-            completionsFor(typed).contains(typed)) {
-            replaceTyped(start, typed);
-            return true;
-        }
-    }
-    return false;
+    const QList<TokenPiece> before = m_pieces;
+    QTextCursor step(document());
+    step.beginEditBlock();
+    makeTokenOfTypedText();
+    makeTokensOfObjects();
+    step.endEditBlock();
+    m_typedEnd = {};
+    document()->setModified(false);
+    return m_pieces != before;
 }
 
-void TokenEditor::replaceTyped(int start, const QString &displayString)
+/// Makes a token of the display string that was typed last.
+void TokenEditor::makeTokenOfTypedText()
 {
-    const QString object = m_field.delegate()->representedObjectForEditingString(&m_field, displayString);
-    QTextCursor cursor = textCursor();
-    cursor.setPosition(start, QTextCursor::KeepAnchor);
-    insertPieces(cursor, {{object, true}});
-    setTextCursor(cursor);
-    ensureCursorVisible();
+    if (m_typedEnd.isNull()) {
+        return;
+    }
+    const int end = m_typedEnd.position();
+    if (continuesWord(document()->firstBlock().text(), end)) {
+        return;
+    }
+    for (const int start : wordStarts(end)) {
+        const QString typed = textBetween(start, end);
+        if (m_vocabulary.isDisplayString(typed)) {
+            replaceWithPiece(*document(), start, end, m_vocabulary.pieceForTyped(typed));
+            return;
+        }
+    }
+}
+
+/// Makes tokens of represented objects that stand in the text: they act as tokens anyway.
+void TokenEditor::makeTokensOfObjects()
+{
+    const auto occurrences = m_vocabulary.occurrences(document()->firstBlock().text());
+    for (auto occurrence = occurrences.rbegin(); occurrence != occurrences.rend(); ++occurrence) {
+        const int start = static_cast<int>(occurrence->position);
+        const int end = start + static_cast<int>(occurrence->object.size());
+        replaceWithPiece(*document(), start, end, {occurrence->object, true});
+    }
 }
 
 /// The position of the token under a point of the viewport, or -1.
@@ -454,6 +558,13 @@ void TokenEditor::selectToken(int position)
     QTextCursor cursor(document());
     cursor.setPosition(position);
     cursor.setPosition(position + 1, QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+}
+
+void TokenEditor::clearSelection()
+{
+    QTextCursor cursor = textCursor();
+    cursor.clearSelection();
     setTextCursor(cursor);
 }
 

@@ -7,21 +7,41 @@
 #include <QtCore/QStringList>
 #include <QtWidgets/QWidget>
 
+class QToolButton;
+
 namespace windowing {
 
 class TokenEditor;
-
 /// A one-line field whose value is made of tokens and of text between them, such as a pattern for file names.
 ///
-/// A token is shown as a rounded chip with its display string. The user types the first letters of one and takes it
-/// from the list that opens: with Tab (the highlighted one, or the first), with Return (the highlighted one), or with a
-/// click; Down opens the list, with all tokens where nothing has been typed. Nothing is highlighted before the user
-/// does it, so Return never puts something else in the place of what was typed. A display string typed in full becomes
-/// a token on Return. Chips are moved over, selected, deleted, dragged, copied, undone and redone like one character of
-/// the text; copied into another program they are their display strings. A screen reader reads the display strings.
+/// A token is shown as a rounded chip with its display string. The user gets one
+/// - by typing its first letters: Return and Tab take the highlighted one of the list that opens, which is the first
+///   one unless the delegate or the user highlights another, as does a click; Escape closes the list and keeps the
+///   text;
+/// - from the list of all tokens, which Down opens where nothing has been typed;
+/// - from the menu of the button at the end of the field, or from the context menu;
+/// - by typing its display string in full, as words of their own, right before the edit ends;
+/// - by typing, pasting or dropping its represented object, also inside of other text, for there it acts as the token.
+///
+/// Return reaches the default button of a dialog only when no list is open and it has made no token of text. Undoing
+/// turns a token back into what was typed. Chips are moved over, selected, deleted, dragged, copied, undone and redone
+/// like one character of the text; copied into another program they are their display strings. A screen reader reads
+/// the display strings.
 ///
 ///     tokenField->setDelegate(delegate);                    // "<1>" is Number, "<2>" is Name
 ///     tokenField->setValue({u"<2>"_s, u", "_s, u"<1>"_s});  // shows (Name), (Number)
+///
+/// Only an object that the delegate maps back to itself is shown as a chip: one whose display string stands for it, and
+/// is another text or among the completions of itself. All else is text and stored as itself, whichever way it came
+/// in; a text that equals a display string stays text when it is set. Line feeds that are pasted, typed or dropped
+/// become blanks; those of a value that is set stay, and show as signs.
+///
+/// An edit ends with Return, when the focus leaves, and when something has been dropped on the field, with or without
+/// the focus, or dragged away from it.
+///
+/// The field asks its delegate while it is drawn. A delegate that throws shows the represented objects themselves, and
+/// its first error goes to `platform::alertError`, once for each `setDelegate`; no operation of the field throws for
+/// it.
 ///
 /// `value` is what `filenamesFromComponents` takes. A panel binds it, and `delegate`, to key paths of its controller.
 class ORVANE_KIT_EXPORT TokenField : public QWidget
@@ -37,11 +57,11 @@ public:
     explicit TokenField(QWidget *parent = nullptr);
     ~TokenField() override;
 
-    /// The represented objects of the tokens and the texts between them, in their order.
+    /// What was set, until the user edits it; from then on the represented objects of the tokens and the texts between
+    /// them, in their order.
     QStringList value() const;
 
-    /// Replaces the value. Elements that the delegate shows or completes as tokens become tokens, all others text.
-    /// Nothing can be undone after that; a value that the field has already changes nothing.
+    /// Replaces the value. Nothing can be undone after that; a value that the field has already changes nothing.
     void setValue(const QStringList &value);
 
     /// What the user reads: the display strings of the tokens, and the texts between them.
@@ -66,7 +86,7 @@ public:
 
 Q_SIGNALS:
     void valueChanged();    ///< the value is another one than before, by the user or by `setValue`
-    void editingFinished(); ///< the user has pressed Return, or the focus has left the field
+    void editingFinished(); ///< an edit has ended; what was typed is a token where it stands for one
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -76,13 +96,18 @@ protected:
 private:
     friend class TokenEditor;
 
-    void showValue(const QStringList &value);
-    void layOutEditor();
+    void showValue();
+    void takeEdit();
+    void openTokenMenu();
+    void setTexts();
+    void updateButton();
+    void layOutParts();
     QSize sizeForWidth(int width) const;
 
     QPointer<TokenFieldDelegate> m_delegate;
     TokenEditor *m_editor;
-    QStringList m_lastValue;
+    QToolButton *m_tokenButton;
+    QStringList m_value;
 };
 
 } // namespace windowing

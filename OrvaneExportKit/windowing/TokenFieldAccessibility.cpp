@@ -12,6 +12,15 @@ namespace windowing {
 
 namespace {
 
+/// What screen readers are told of the editor and of the field around it alike.
+QAccessible::State withStateOfText(QAccessible::State state, const TokenEditor &editor)
+{
+    state.editable = !editor.isReadOnly();
+    state.readOnly = editor.isReadOnly();
+    state.supportsAutoCompletion = true;
+    return state;
+}
+
 /// The text of a token field for screen readers. It holds the display strings, so its offsets are not the positions in
 /// the document, where a token is one character.
 class AccessibleTokenEditor final : public QAccessibleWidget, public QAccessibleTextInterface
@@ -31,20 +40,13 @@ public:
     QString text(QAccessible::Text kind) const override
     {
         if (kind == QAccessible::Value) {
-            return m_editor.displayText(m_editor.pieces());
+            return m_editor.displayText();
         }
         const QAccessibleInterface *field = QAccessible::queryAccessibleInterface(m_editor.parentWidget());
         return field != nullptr ? field->text(kind) : QString(); // the label and the help belong to the field
     }
 
-    QAccessible::State state() const override
-    {
-        QAccessible::State state = QAccessibleWidget::state();
-        state.editable = !m_editor.isReadOnly();
-        state.readOnly = m_editor.isReadOnly();
-        state.supportsAutoCompletion = true;
-        return state;
-    }
+    QAccessible::State state() const override { return withStateOfText(QAccessibleWidget::state(), m_editor); }
 
     void selection(int selectionIndex, int *startOffset, int *endOffset) const override
     {
@@ -84,9 +86,8 @@ public:
 
     QRect characterRect(int offset) const override
     {
-        QTextCursor cursor = m_editor.textCursor();
-        cursor.setPosition(position(offset));
-        const QRect place = m_editor.cursorRect(cursor);
+        const int start = position(offset);
+        const QRect place = cursorRect(start) | cursorRect(start + 1);
         return {m_editor.viewport()->mapToGlobal(place.topLeft()), place.size()};
     }
 
@@ -97,45 +98,95 @@ public:
 
     void scrollToSubstring(int startIndex, int /*endIndex*/) override { setCursorPosition(startIndex); }
 
-    QString attributes(int offset, int *startOffset, int *endOffset) const override
+    QString attributes(int /*offset*/, int *startOffset, int *endOffset) const override
     {
-        *startOffset = offset;
+        *startOffset = 0;
         *endOffset = characterCount();
         return {};
     }
 
 private:
+    QRect cursorRect(int position) const
+    {
+        QTextCursor cursor = m_editor.textCursor();
+        cursor.setPosition(std::min(position, m_editor.document()->characterCount() - 1));
+        return m_editor.cursorRect(cursor);
+    }
+
     /// Where a position in the document is in the text with the display strings.
     int offset(int position) const
     {
-        return static_cast<int>(m_editor.displayText(tokenPieces(*m_editor.document(), 0, position)).size());
+        const auto before = tokenPieces(*m_editor.document(), 0, position);
+        return static_cast<int>(m_editor.vocabulary().displayText(before).size());
     }
 
     /// The last position that is not behind the offset: inside of a token, the one before it.
     int position(int offset) const
     {
-        int position = 0;
-        const int last = m_editor.document()->characterCount() - 1;
-        while (position < last && this->offset(position + 1) <= offset) {
-            ++position;
+        qsizetype position = 0;
+        qsizetype left = std::max(offset, 0);
+        for (const TokenPiece &piece : m_editor.pieces()) {
+            const qsizetype shown = piece.isToken ? m_editor.vocabulary().displayString(piece.text).size() : 1;
+            const qsizetype length = piece.isToken ? 1 : piece.text.size();
+            const qsizetype passed = std::min(length, shown == 0 ? length : left / shown);
+            position += passed;
+            left -= passed * shown;
+            if (passed < length) {
+                break;
+            }
         }
-        return position;
+        return static_cast<int>(position);
     }
 
     TokenEditor &m_editor;
 };
 
-QAccessibleInterface *accessibleTokenEditor(const QString & /*className*/, QObject *object)
+/// The field around the editor: as with a combo box, a text to edit and a button with a choice of what to put into it.
+class AccessibleTokenField final : public QAccessibleWidget
 {
-    auto *editor = qobject_cast<TokenEditor *>(object);
-    return editor != nullptr ? new AccessibleTokenEditor(*editor) : nullptr;
+public:
+    AccessibleTokenField(TokenField &field, TokenEditor &editor)
+        : QAccessibleWidget(&field, QAccessible::ComboBox), m_editor(editor)
+    {
+    }
+
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::TextInterface) {
+            QAccessibleInterface *text = QAccessible::queryAccessibleInterface(&m_editor);
+            return text != nullptr ? text->interface_cast(type) : nullptr;
+        }
+        return QAccessibleWidget::interface_cast(type);
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? m_editor.displayText() : QAccessibleWidget::text(kind);
+    }
+
+    QAccessible::State state() const override { return withStateOfText(QAccessibleWidget::state(), m_editor); }
+
+private:
+    TokenEditor &m_editor;
+};
+
+QAccessibleInterface *accessibleTokenField(const QString & /*className*/, QObject *object)
+{
+    if (auto *editor = qobject_cast<TokenEditor *>(object)) {
+        return new AccessibleTokenEditor(*editor);
+    }
+    if (auto *field = qobject_cast<TokenField *>(object)) {
+        auto *editor = field->findChild<TokenEditor *>(QString(), Qt::FindDirectChildrenOnly);
+        return editor != nullptr ? new AccessibleTokenField(*field, *editor) : nullptr;
+    }
+    return nullptr;
 }
 
 } // namespace
 
 void installTokenFieldAccessibility()
 {
-    QAccessible::installFactory(accessibleTokenEditor); // the same one is installed only once
+    QAccessible::installFactory(accessibleTokenField); // the same one is installed only once
 }
 
 } // namespace windowing

@@ -8,35 +8,84 @@ namespace windowing {
 
 namespace {
 
-constexpr int representedObjectProperty = QTextFormat::UserProperty + 1;
+constexpr int objectProperty = QTextFormat::UserProperty + 1;
 
-void appendText(QList<TokenPiece> &pieces, QStringView text)
+/// The characters that end a line or a block, that mean something to a document, and those that nobody would see.
+bool fitsIntoLine(QChar character)
 {
-    if (!pieces.isEmpty() && !pieces.last().isToken) {
-        pieces.last().text += text;
-    } else {
-        pieces.append({text.toString(), false});
+    constexpr QChar beginningOfFrame(0xFDD0);
+    constexpr QChar endOfFrame(0xFDD1);
+    switch (character.category()) {
+    case QChar::Other_Control:
+        return character == u'\t';
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return false;
+    default:
+        return character != QChar::ObjectReplacementCharacter && character != beginningOfFrame &&
+               character != endOfFrame;
     }
+}
+
+void insertObject(QTextCursor &cursor, int type, const QString &object)
+{
+    QTextCharFormat format;
+    format.setObjectType(type);
+    format.setProperty(objectProperty, object);
+    cursor.insertText(QString(QChar::ObjectReplacementCharacter), format);
+}
+
+void insertText(QTextCursor &cursor, const QString &text)
+{
+    const auto insertLine = [&cursor](const QString &line) {
+        cursor.insertText(line, QTextCharFormat());
+    };
+    qsizetype start = 0;
+    for (qsizetype index = 0; index < text.size(); ++index) {
+        if (!fitsIntoLine(text[index])) {
+            insertLine(text.sliced(start, index - start));
+            insertObject(cursor, heldCharacterObjectType, text.sliced(index, 1));
+            start = index + 1;
+        }
+    }
+    insertLine(text.sliced(start));
+}
+
+void insertPiece(QTextCursor &cursor, const TokenPiece &piece)
+{
+    piece.isToken ? insertObject(cursor, tokenObjectType, piece.text) : insertText(cursor, piece.text);
+}
+
+void appendCharacter(QList<TokenPiece> &pieces, QChar character, const QTextCharFormat &format)
+{
+    const bool isObject = character == QChar::ObjectReplacementCharacter;
+    if (isObject && format.objectType() == tokenObjectType) {
+        pieces.append({representedObject(format), true});
+        return;
+    }
+    if (pieces.isEmpty() || pieces.last().isToken) {
+        pieces.append({QString(), false});
+    }
+    const bool isHeld = isObject && format.objectType() == heldCharacterObjectType;
+    pieces.last().text += isHeld ? heldCharacter(format) : character;
 }
 
 } // namespace
 
 QString representedObject(const QTextFormat &format)
 {
-    return format.stringProperty(representedObjectProperty);
+    return format.stringProperty(objectProperty);
+}
+
+QChar heldCharacter(const QTextFormat &format)
+{
+    return format.stringProperty(objectProperty).at(0);
 }
 
 bool isToken(const QTextDocument &document, int position)
 {
-    return document.characterAt(position) == QChar::ObjectReplacementCharacter;
-}
-
-void insertToken(QTextCursor &cursor, const QString &representedObject)
-{
-    QTextCharFormat format;
-    format.setObjectType(tokenObjectType);
-    format.setProperty(representedObjectProperty, representedObject);
-    cursor.insertText(QString(QChar::ObjectReplacementCharacter), format);
+    const QList<TokenPiece> pieces = tokenPieces(document, position, position + 1);
+    return !pieces.isEmpty() && pieces.first().isToken;
 }
 
 void insertPieces(QTextCursor &cursor, const QList<TokenPiece> &pieces)
@@ -44,12 +93,20 @@ void insertPieces(QTextCursor &cursor, const QList<TokenPiece> &pieces)
     cursor.beginEditBlock();
     cursor.removeSelectedText();
     for (const TokenPiece &piece : pieces) {
-        if (piece.isToken) {
-            insertToken(cursor, piece.text);
-        } else {
-            cursor.insertText(piece.text, QTextCharFormat());
-        }
+        insertPiece(cursor, piece);
     }
+    cursor.endEditBlock();
+}
+
+void replaceWithPiece(QTextDocument &document, int start, int end, const TokenPiece &piece)
+{
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
+    cursor.setPosition(end);
+    insertPiece(cursor, piece);
+    cursor.setPosition(start);
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
     cursor.endEditBlock();
 }
 
@@ -62,13 +119,9 @@ QList<TokenPiece> tokenPieces(const QTextDocument &document, int start, int end)
         const int first = std::max(start, fragment.position());
         const int last = std::min(end, fragment.position() + fragment.length());
         const QString text = fragment.text();
+        const QTextCharFormat format = fragment.charFormat();
         for (int position = first; position < last; ++position) {
-            const QChar character = text[position - fragment.position()];
-            if (character == QChar::ObjectReplacementCharacter) {
-                pieces.append({representedObject(fragment.charFormat()), true});
-            } else {
-                appendText(pieces, QStringView(&character, 1));
-            }
+            appendCharacter(pieces, text[position - fragment.position()], format);
         }
     }
     return pieces;

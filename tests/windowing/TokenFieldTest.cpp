@@ -1,29 +1,20 @@
-#include <OrvaneExportKit/controls/KZTokenFieldDelegate.h>
 #include <OrvaneExportKit/windowing/Binding.h>
-#include <OrvaneExportKit/windowing/TokenField.h>
 #include <tests/support/PanelController.h>
 #include <tests/support/Printers.h>
+#include <tests/support/TokenFields.h>
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QMimeData>
 #include <QtGui/QAccessible>
 #include <QtGui/QClipboard>
-#include <QtGui/QDragEnterEvent>
-#include <QtGui/QDropEvent>
-#include <QtGui/QInputMethodEvent>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextLayout>
 #include <QtTest/QSignalSpy>
-#include <QtTest/QTest>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QListView>
-#include <QtWidgets/QTextEdit>
-#include <QtWidgets/QVBoxLayout>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -32,69 +23,7 @@ using windowing::TokenField;
 
 namespace {
 
-/// A window with a field for file names that knows Label, Name, Number and "Name of the Folder", and another field.
-class TokenFields : public testing::Test
-{
-protected:
-    TokenFields()
-    {
-        auto *layout = new QVBoxLayout(&m_window);
-        layout->addWidget(&m_field);
-        layout->addWidget(&m_otherField);
-        m_field.setDelegate(&m_delegate);
-        m_window.resize(400, 100);
-        m_window.show();
-        m_window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
-        m_field.setFocus();
-    }
-
-    QTextEdit &editor() { return *m_field.findChild<QTextEdit *>(); }
-    QListView &list() { return *m_field.findChild<QListView *>(); }
-
-    QStringList offered()
-    {
-        QStringList strings;
-        for (int row = 0; list().isVisible() && row < list().model()->rowCount(); ++row) {
-            strings.append(list().model()->index(row, 0).data().toString());
-        }
-        return strings;
-    }
-
-    void type(const QString &text) { QTest::keyClicks(&editor(), text); }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&editor(), key, modifiers); }
-
-    void compose(const QString &preedit, const QString &committed = {})
-    {
-        QInputMethodEvent event(preedit, {});
-        event.setCommitString(committed);
-        QApplication::sendEvent(&editor(), &event);
-    }
-
-    void select(int from, int to)
-    {
-        QTextCursor cursor = editor().textCursor();
-        cursor.setPosition(from);
-        cursor.setPosition(to, QTextCursor::KeepAnchor);
-        editor().setTextCursor(cursor);
-    }
-
-    /// Where the character at a position stands in the viewport.
-    QPoint centreOf(int position)
-    {
-        QTextCursor cursor = editor().textCursor();
-        cursor.setPosition(position);
-        const QRect start = editor().cursorRect(cursor);
-        cursor.setPosition(position + 1);
-        return (start.center() + editor().cursorRect(cursor).center()) / 2;
-    }
-
-    KZTokenFieldDelegate m_delegate{
-        {{u"<1>"_s, u"Number"_s}, {u"<2>"_s, u"Name"_s}, {u"<4>"_s, u"Label"_s}, {u"<5>"_s, u"Name of the Folder"_s}}};
-    QWidget m_window;
-    TokenField m_field;
-    QLineEdit m_otherField;
-};
+using TokenFields = support::TokenFields;
 
 TEST_F(TokenFields, ShowTokensBetweenText)
 {
@@ -108,7 +37,7 @@ TEST_F(TokenFields, ShowElementsThatTheDelegateDoesNotKnowAsText)
 {
     m_field.setValue({u"Chapter "_s, u"<9>"_s});
     EXPECT_EQ(editor().toPlainText(), u"Chapter <9>"_s);
-    EXPECT_EQ(m_field.value(), QStringList{u"Chapter <9>"_s});
+    EXPECT_EQ(m_field.value(), (QStringList{u"Chapter "_s, u"<9>"_s}));
 }
 
 TEST_F(TokenFields, ShowATokenThatIsItsOwnDisplayString)
@@ -180,12 +109,13 @@ TEST_F(TokenFields, NeverOfferWhatWasTypedAsACompletionOfItself)
     EXPECT_EQ(offered(), QStringList());
 }
 
-TEST_F(TokenFields, HighlightNothingBeforeTheUserDoes)
+TEST_F(TokenFields, HighlightWhatReturnWillTake)
 {
     type(u"n"_s);
-    EXPECT_FALSE(list().currentIndex().isValid());
-    press(Qt::Key_Down);
     EXPECT_EQ(list().currentIndex().row(), 0);
+    press(Qt::Key_Down);
+    EXPECT_EQ(list().currentIndex().row(), 1);
+    press(Qt::Key_Up);
     press(Qt::Key_Up);
     EXPECT_EQ(list().currentIndex().row(), 2);
     press(Qt::Key_Return);
@@ -193,13 +123,54 @@ TEST_F(TokenFields, HighlightNothingBeforeTheUserDoes)
     EXPECT_FALSE(list().isVisible());
 }
 
-TEST_F(TokenFields, LoseNoTextTypedBeforeReturn)
+/// Offers its display strings from the last to the first, and may highlight one.
+class ReverseDelegate final : public KZTokenFieldDelegate
+{
+public:
+    using KZTokenFieldDelegate::KZTokenFieldDelegate;
+
+    QStringList completionsForSubstring(TokenField *tokenField, const QString &substring, qint32 indexOfToken,
+                                        qint32 *indexOfSelectedItem) const override
+    {
+        QStringList completions =
+            KZTokenFieldDelegate::completionsForSubstring(tokenField, substring, indexOfToken, indexOfSelectedItem);
+        std::reverse(completions.begin(), completions.end());
+        *indexOfSelectedItem = m_highlighted;
+        return completions;
+    }
+
+    qint32 m_highlighted = -1;
+};
+
+TEST_F(TokenFields, HighlightWhatIsTypedInFullBeforeWhatOnlyBeginsWithIt)
+{
+    ReverseDelegate delegate({{u"<2>"_s, u"Name"_s}, {u"<5>"_s, u"Name of the Folder"_s}});
+    m_field.setDelegate(&delegate);
+    type(u"Name"_s);
+    EXPECT_EQ(list().currentIndex().data().toString(), u"Name"_s);
+    m_field.setDelegate(nullptr);
+}
+
+TEST_F(TokenFields, HighlightWhatTheDelegateSays)
+{
+    ReverseDelegate delegate({{u"<2>"_s, u"Name"_s}, {u"<1>"_s, u"Number"_s}});
+    delegate.m_highlighted = 1;
+    m_field.setDelegate(&delegate);
+    type(u"n"_s);
+    EXPECT_EQ(list().currentIndex().data().toString(), u"Name"_s);
+    delegate.m_highlighted = 7;
+    type(u"u"_s);
+    EXPECT_EQ(list().currentIndex().data().toString(), u"Number"_s);
+    m_field.setDelegate(nullptr);
+}
+
+TEST_F(TokenFields, LoseNoTextTypedBeforeReturnWhenTheListIsClosed)
 {
     type(u"nu"_s);
     ASSERT_TRUE(list().isVisible());
+    press(Qt::Key_Escape);
     press(Qt::Key_Return);
     EXPECT_EQ(m_field.value(), QStringList{u"nu"_s});
-    EXPECT_FALSE(list().isVisible());
     type(u"ll"_s);
     press(Qt::Key_Enter);
     EXPECT_EQ(m_field.value(), QStringList{u"null"_s});
@@ -264,7 +235,7 @@ TEST_F(TokenFields, OfferAllTokensOnDown)
     EXPECT_EQ(offered().size(), 4);
     press(Qt::Key_Down);
     press(Qt::Key_Return);
-    EXPECT_EQ(m_field.value(), QStringList{u"<4>"_s});
+    EXPECT_EQ(m_field.value(), QStringList{u"<2>"_s});
 }
 
 TEST_F(TokenFields, CloseTheListWhenTheCursorMovesOrTheFocusLeaves)
@@ -467,6 +438,29 @@ TEST_F(TokenFields, AreReadByScreenReadersWithTheirDisplayStrings)
     text->setSelection(0, 4, 12);
     EXPECT_EQ(editor().textCursor().selectionStart(), 1);
     EXPECT_EQ(editor().textCursor().selectionEnd(), 4);
+    text->setCursorPosition(8);
+    EXPECT_EQ(editor().textCursor().position(), 3) << "inside of a token is before it";
+    text->setCursorPosition(-1);
+    EXPECT_EQ(text->cursorPosition(), 0);
+    text->setCursorPosition(99);
+    EXPECT_EQ(text->cursorPosition(), 12);
+    EXPECT_GT(text->characterRect(2).width(), text->characterRect(5).width()) << "of a token, and of a blank";
+}
+
+TEST_F(TokenFields, AreReadAsAWholeByScreenReaders)
+{
+    m_field.setValue({u"<2>"_s, u", "_s, u"<1>"_s});
+    m_field.setAccessibleName(u"File names"_s);
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(&m_field);
+    ASSERT_NE(accessible, nullptr);
+    EXPECT_EQ(accessible->role(), QAccessible::ComboBox);
+    EXPECT_EQ(accessible->text(QAccessible::Name), u"File names"_s);
+    EXPECT_EQ(accessible->text(QAccessible::Value), u"Name, Number"_s);
+    ASSERT_NE(accessible->textInterface(), nullptr);
+    EXPECT_EQ(accessible->textInterface()->text(0, 12), u"Name, Number"_s);
+    EXPECT_TRUE(accessible->state().editable);
+    m_field.setReadOnly(true);
+    EXPECT_TRUE(accessible->state().readOnly);
 }
 
 TEST_F(TokenFields, RunFromRightToLeftWhereTheTextDoes)
@@ -530,6 +524,35 @@ TEST_F(TokenFields, DrawChipsAroundTokensAndHighlightSelectedOnes)
     EXPECT_EQ(colorAt(corner), palette.color(QPalette::Highlight));
     EXPECT_NE(colorAt(besideText), palette.color(QPalette::Highlight));
     EXPECT_EQ(colorAt(text), palette.color(QPalette::Base));
+}
+
+TEST_F(TokenFields, SelectNothingWhenTheFocusHasGoneToAnotherField)
+{
+    m_field.setValue({u"<2>"_s, u"x"_s});
+    editor().selectAll();
+    m_otherField.setFocus();
+    EXPECT_FALSE(editor().textCursor().hasSelection());
+}
+
+TEST_F(TokenFields, DrawTheSelectionAsInactiveWhenTheWindowIs)
+{
+    QPalette palette = m_field.palette();
+    palette.setColor(QPalette::Active, QPalette::Highlight, Qt::blue);
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, Qt::darkYellow);
+    m_field.setPalette(palette);
+    m_field.setValue({u"<2>"_s, u"      "_s});
+    editor().selectAll();
+    const auto colorAt = [this](const QPoint &place) {
+        return m_field.grab().toImage().pixelColor(editor().viewport()->mapTo(&m_field, place));
+    };
+    const QPoint corner = editor().cursorRect(QTextCursor(editor().document())).topLeft() + QPoint(2, 0);
+    const QPoint text = centreOf(4);
+    EXPECT_EQ(colorAt(corner), QColor(Qt::blue));
+    QFocusEvent leaving(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QApplication::sendEvent(&editor(), &leaving);
+    EXPECT_TRUE(editor().textCursor().hasSelection());
+    EXPECT_EQ(colorAt(corner), QColor(Qt::darkYellow));
+    EXPECT_EQ(colorAt(text), QColor(Qt::darkYellow));
 }
 
 TEST_F(TokenFields, CompleteAmongAThousandTokensAtOnce)

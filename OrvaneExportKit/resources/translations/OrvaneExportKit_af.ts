@@ -234,4 +234,50 @@
         <translation>Die lettertipe “%1” is nie geïnstalleer nie. ’n Ander een staan hier in die plek daarvan.</translation>
     </message>
 </context>
+<context>
+    <name>windowing::TokenEditor</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Ontdoen</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Herdoen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Sny</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieer</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Plak</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>Ve&amp;rwyder</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Kies &amp;alles</translation>
+    </message>
+    <message>
+        <source>&amp;Insert Token</source>
+        <extracomment>An entry of a menu, with a menu of its own that lists the tokens. A token stands for something that is put in later, such as the name of a document.</extracomment>
+        <translation>Voeg plekhouer &amp;in</translation>
+    </message>
+    <message>
+        <source>Insert a token</source>
+        <extracomment>What a screen reader calls the button that opens a menu with the tokens, and its tool tip.</extracomment>
+        <translation>Voeg ’n plekhouer in</translation>
+    </message>
+    <message>
+        <source>No Tokens</source>
+        <extracomment>Stands in that menu in place of tokens.</extracomment>
+        <translation>Geen plekhouers nie</translation>
+    </message>
+</context>
 </TS>

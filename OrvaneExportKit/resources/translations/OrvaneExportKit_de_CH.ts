@@ -234,4 +234,50 @@
         <translation>Die Schrift «%1» ist nicht installiert. Hier wird sie durch eine andere ersetzt.</translation>
     </message>
 </context>
+<context>
+    <name>windowing::TokenEditor</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Alles a&amp;uswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Insert Token</source>
+        <extracomment>An entry of a menu, with a menu of its own that lists the tokens. A token stands for something that is put in later, such as the name of a document.</extracomment>
+        <translation>&amp;Platzhalter einfügen</translation>
+    </message>
+    <message>
+        <source>Insert a token</source>
+        <extracomment>What a screen reader calls the button that opens a menu with the tokens, and its tool tip.</extracomment>
+        <translation>Platzhalter einfügen</translation>
+    </message>
+    <message>
+        <source>No Tokens</source>
+        <extracomment>Stands in that menu in place of tokens.</extracomment>
+        <translation>Keine Platzhalter</translation>
+    </message>
+</context>
 </TS>

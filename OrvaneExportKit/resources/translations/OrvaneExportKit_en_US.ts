@@ -234,4 +234,50 @@
         <translation>The font “%1” is not installed. Another one stands in for it here.</translation>
     </message>
 </context>
+<context>
+    <name>windowing::TokenEditor</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cu&amp;t</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Paste</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Select &amp;All</translation>
+    </message>
+    <message>
+        <source>&amp;Insert Token</source>
+        <extracomment>An entry of a menu, with a menu of its own that lists the tokens. A token stands for something that is put in later, such as the name of a document.</extracomment>
+        <translation>&amp;Insert Token</translation>
+    </message>
+    <message>
+        <source>Insert a token</source>
+        <extracomment>What a screen reader calls the button that opens a menu with the tokens, and its tool tip.</extracomment>
+        <translation>Insert a token</translation>
+    </message>
+    <message>
+        <source>No Tokens</source>
+        <extracomment>Stands in that menu in place of tokens.</extracomment>
+        <translation>No Tokens</translation>
+    </message>
+</context>
 </TS>

@@ -234,4 +234,50 @@
         <translation>La police « %1 » n’est pas installée. Une autre la remplace ici.</translation>
     </message>
 </context>
+<context>
+    <name>windowing::TokenEditor</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Co&amp;uper</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>&amp;Insert Token</source>
+        <extracomment>An entry of a menu, with a menu of its own that lists the tokens. A token stands for something that is put in later, such as the name of a document.</extracomment>
+        <translation>&amp;Insérer une variable</translation>
+    </message>
+    <message>
+        <source>Insert a token</source>
+        <extracomment>What a screen reader calls the button that opens a menu with the tokens, and its tool tip.</extracomment>
+        <translation>Insérer une variable</translation>
+    </message>
+    <message>
+        <source>No Tokens</source>
+        <extracomment>Stands in that menu in place of tokens.</extracomment>
+        <translation>Aucune variable</translation>
+    </message>
+</context>
 </TS>

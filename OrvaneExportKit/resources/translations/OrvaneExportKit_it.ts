@@ -234,4 +234,50 @@
         <translation>Il font “%1” non è installato. Qui è sostituito da un altro.</translation>
     </message>
 </context>
+<context>
+    <name>windowing::TokenEditor</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>A&amp;nnulla</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ripeti</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Taglia</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Incolla</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Elimina</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Seleziona tutto</translation>
+    </message>
+    <message>
+        <source>&amp;Insert Token</source>
+        <extracomment>An entry of a menu, with a menu of its own that lists the tokens. A token stands for something that is put in later, such as the name of a document.</extracomment>
+        <translation>Inserisci se&amp;gnaposto</translation>
+    </message>
+    <message>
+        <source>Insert a token</source>
+        <extracomment>What a screen reader calls the button that opens a menu with the tokens, and its tool tip.</extracomment>
+        <translation>Inserisci un segnaposto</translation>
+    </message>
+    <message>
+        <source>No Tokens</source>
+        <extracomment>Stands in that menu in place of tokens.</extracomment>
+        <translation>Nessun segnaposto</translation>
+    </message>
+</context>
 </TS>
