@@ -95,6 +95,9 @@ inline QWidget *documentWindow = nullptr;
 inline QWidget *field = nullptr;
 inline QWidget *topMarginField = nullptr;
 
+inline const QString path;
+inline const QByteArray content;
+
 inline void show(const QString & /*text*/)
 {
 }
@@ -105,6 +108,9 @@ inline void warn(const QString & /*text*/)
 {
 }
 inline void warn(const char * /*text*/)
+{
+}
+inline void warn(const QString & /*path*/, const QString & /*reason*/)
 {
 }
 inline void work(int /*step*/)
