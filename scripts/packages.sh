@@ -4,7 +4,7 @@
 build_packages=(build-essential cmake ninja-build ccache
                 qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev libgl-dev)
 test_packages=(libgtest-dev clang llvm libclang-rt-14-dev clang-format clang-tidy python3
-               doxygen dpkg-dev file pkg-config tidy texlive-latex-base shellcheck
+               doxygen dpkg-dev file pkg-config tidy texlive-latex-base shellcheck e2fsprogs mount
                xvfb openbox xdotool imagemagick fonts-dejavu-core fonts-dejavu-extra)
 bench_packages=(libbenchmark-dev pkg-config libplist-dev libpcre2-dev libicu-dev python3)
 

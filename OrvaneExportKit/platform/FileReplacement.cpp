@@ -60,10 +60,9 @@ QFileInfo target(const QString &path)
     return info;
 }
 
-} // namespace
-
-struct FileReplacement::State {
-    explicit State(FileAccess fileAccess) : access(fileAccess) {}
+/// What `FileReplacement` does, out of the sight of those who link the library.
+struct FileGroup {
+    explicit FileGroup(FileAccess fileAccess) : access(fileAccess) {}
 
     bool write(const QString &path, const QByteArray &content);
     bool finish();
@@ -88,13 +87,13 @@ private:
     std::size_t countUpToFailure(const WaitingFiles &files, void (PendingFile::*operation)());
 };
 
-bool FileReplacement::State::failed(const QString &path, const DiskError &error)
+bool FileGroup::failed(const QString &path, const DiskError &error)
 {
     failure = {path, error.reason, false};
     return false;
 }
 
-DiskFolder &FileReplacement::State::folder(const QString &path)
+DiskFolder &FileGroup::folder(const QString &path)
 {
     if (waiting.empty() && folders.size() >= mostFolders) {
         folders.clear();
@@ -106,7 +105,7 @@ DiskFolder &FileReplacement::State::folder(const QString &path)
     return *folder;
 }
 
-void FileReplacement::State::add(const QString &path, const QByteArray &content)
+void FileGroup::add(const QString &path, const QByteArray &content)
 {
     const QFileInfo info = target(path);
     DiskFolder &folder = this->folder(info.path());
@@ -114,13 +113,13 @@ void FileReplacement::State::add(const QString &path, const QByteArray &content)
     waitingBytes += content.size();
 }
 
-bool FileReplacement::State::isFull() const
+bool FileGroup::isFull() const
 {
     return waiting.size() >= mostWaitingFiles || waitingBytes >= mostWaitingBytes || folders.size() >= mostFolders ||
            end.hasExpired();
 }
 
-bool FileReplacement::State::write(const QString &path, const QByteArray &content)
+bool FileGroup::write(const QString &path, const QByteArray &content)
 {
     try {
         try {
@@ -140,7 +139,7 @@ bool FileReplacement::State::write(const QString &path, const QByteArray &conten
     return !isFull() || finish();
 }
 
-bool FileReplacement::State::flushFileSystems(const WaitingFiles &files) const
+bool FileGroup::flushFileSystems(const WaitingFiles &files) const
 {
     DiskFolder *flushed = nullptr;
     for (const WaitingFile &file : files) {
@@ -153,7 +152,7 @@ bool FileReplacement::State::flushFileSystems(const WaitingFiles &files) const
 }
 
 /// How many files the operation succeeds with until it fails with one.
-std::size_t FileReplacement::State::countUpToFailure(const WaitingFiles &files, void (PendingFile::*operation)())
+std::size_t FileGroup::countUpToFailure(const WaitingFiles &files, void (PendingFile::*operation)())
 {
     for (std::size_t index = 0; index < files.size(); ++index) {
         try {
@@ -167,7 +166,7 @@ std::size_t FileReplacement::State::countUpToFailure(const WaitingFiles &files, 
 }
 
 /// How many of the files are on disk, from the first one.
-std::size_t FileReplacement::State::flush(const WaitingFiles &files)
+std::size_t FileGroup::flush(const WaitingFiles &files)
 {
     try {
         const bool areFlushed = files.size() >= fewestFlushedTogether && flushFileSystems(files);
@@ -182,7 +181,7 @@ std::size_t FileReplacement::State::flush(const WaitingFiles &files)
 }
 
 /// How many of the first `count` files have taken their places.
-std::size_t FileReplacement::State::place(const WaitingFiles &files, std::size_t count)
+std::size_t FileGroup::place(const WaitingFiles &files, std::size_t count)
 {
     replaced.reserve(replaced.size() + static_cast<qsizetype>(count)); // no file takes its place unnoticed
     for (std::size_t index = 0; index < count; ++index) {
@@ -197,7 +196,7 @@ std::size_t FileReplacement::State::place(const WaitingFiles &files, std::size_t
     return count;
 }
 
-bool FileReplacement::State::flushFolders(const WaitingFiles &files, std::size_t count)
+bool FileGroup::flushFolders(const WaitingFiles &files, std::size_t count)
 {
     DiskFolder *flushed = nullptr;
     for (std::size_t index = 0; index < count; ++index) {
@@ -216,7 +215,7 @@ bool FileReplacement::State::flushFolders(const WaitingFiles &files, std::size_t
     return true;
 }
 
-bool FileReplacement::State::finish()
+bool FileGroup::finish()
 {
     const WaitingFiles files = std::exchange(waiting, {});
     waitingBytes = 0;
@@ -224,6 +223,12 @@ bool FileReplacement::State::finish()
     end.setRemainingTime(longestWait);
     return flushFolders(files, placed) && placed == files.size();
 }
+
+} // namespace
+
+struct FileReplacement::State : FileGroup {
+    using FileGroup::FileGroup;
+};
 
 FileReplacement::FileReplacement(FileAccess access) : m_state(std::make_unique<State>(access))
 {

@@ -52,6 +52,7 @@ struct FileFailure {
 class ORVANE_CORE_EXPORT FileReplacement
 {
 public:
+    /// With nothing to write yet; `access` is that of all its files.
     explicit FileReplacement(FileAccess access = FileAccess::AsUsual);
     FileReplacement(const FileReplacement &) = delete;
     FileReplacement &operator=(const FileReplacement &) = delete;
