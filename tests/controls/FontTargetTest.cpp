@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <QtGui/QColor>
+#include <QtWidgets/QFontComboBox>
 
 using namespace Qt::Literals::StringLiterals;
 using windowing::Binding;
@@ -42,6 +43,19 @@ TEST_F(FontTarget, StoresNameAndSizeInWhatTheyAreBoundTo)
     EXPECT_EQ(controller.settings()->objectForKey(u"name"_s), u"DejaVuSans-Bold"_s);
     EXPECT_EQ(controller.settings()->objectForKey(u"size"_s), 12.5);
     EXPECT_EQ(field.text(), u"DejaVuSans-Bold, 12pt"_s);
+}
+
+TEST_F(FontTarget, KeepsTheSizeOfTheFieldWhenOnlyTheFamilyIsChosen)
+{
+    field.setSelectedFontName(u"DejaVuSans-Bold"_s);
+    field.setSelectedFontSize(20.0F);
+    auto *families = panel.findChild<QFontComboBox *>();
+    ASSERT_NE(families, nullptr);
+    families->setCurrentFont(QFont(u"DejaVu Serif"_s));
+    Q_EMIT families->activated(families->currentIndex());
+    field.changeFont(&panel);
+    EXPECT_TRUE(field.selectedFontName().startsWith(u"DejaVuSerif"_s)) << field.selectedFontName().toStdString();
+    EXPECT_EQ(field.selectedFontSize(), 20.0F);
 }
 
 TEST_F(FontTarget, SetsAFieldThatIsNotBound)
