@@ -1,43 +1,31 @@
 #include <OrvaneExportKit/platform/DefaultsFile.h>
 
+#include <OrvaneExportKit/platform/DefaultsLock.h>
 #include <OrvaneExportKit/platform/DiskFolder.h>
+#include <OrvaneExportKit/platform/FileReading.h>
 #include <OrvaneExportKit/platform/FileReplacement.h>
 #include <OrvaneExportKit/platform/PropertyList.h>
 #include <OrvaneExportKit/platform/PropertyListCheck.h>
 #include <OrvaneExportKit/platform/PropertyListError.h>
 
-#include <QtCore/QDateTime>
-#include <QtCore/QDeadlineTimer>
-#include <QtCore/QDebug>
-#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QLockFile>
 
 #include <algorithm>
-#include <chrono>
 #include <filesystem>
 #include <system_error>
-#include <thread>
 
 namespace platform {
 
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
-using namespace std::chrono_literals;
 
 constexpr QLatin1StringView suffix(".plist");
 constexpr QLatin1StringView keptSuffix(".unreadable-");
 
 /// File systems take names up to 255 bytes; what is put behind a domain's name needs some of them.
 constexpr qsizetype longestDomainName = 255 - suffix.size() - keptSuffix.size() - 10;
-
-constexpr auto longestWaitForLock = 8s;
-constexpr auto pauseBetweenTries = 1ms;
-
-/// No program needs a lock for so long.
-constexpr auto abandonedLockAge = 2s;
 
 bool isSeparatorOrControl(QChar character)
 {
@@ -51,12 +39,22 @@ bool isDomainName(const QString &name)
            std::none_of(name.begin(), name.end(), isSeparatorOrControl);
 }
 
-/// The text in quotation marks, with control characters escaped.
-QString quoted(const QString &text)
+std::filesystem::path systemPath(const QString &path)
 {
-    QString shown;
-    QDebug(&shown).nospace() << text;
-    return shown;
+    return QFileInfo(path).filesystemFilePath();
+}
+
+QString reason(const std::error_code &error)
+{
+    return QString::fromStdString(error.message());
+}
+
+void requireFolder(const QString &folder)
+{
+    if (folder.isEmpty()) {
+        throw DefaultsError{u"There is no folder for settings, for the user has no home folder: set the environment "
+                            "variable HOME, or name a folder in ORVANE_DEFAULTS_FOLDER."_s};
+    }
 }
 
 /// `why` goes on to say what to do.
@@ -67,65 +65,19 @@ DefaultsError notSaved(const QString &path, const QString &why)
 
 void makeFolder(const QString &folder)
 {
-    const QFileInfo info(folder);
-    if (info.isDir()) {
+    const std::filesystem::path path = systemPath(folder);
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error)) {
         return;
     }
-    QDir().mkpath(info.path());
-    QDir().mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    if (!QFileInfo(folder).isDir()) { // another program may have made it first
-        throw DefaultsError{u"The settings folder %1 cannot be made: make it yourself, or make the folder around it "
-                            "writable, and save again."_s.arg(quoted(folder))};
+    std::filesystem::create_directories(path.parent_path(), error);
+    if (!error && std::filesystem::create_directory(path, error)) {
+        std::filesystem::permissions(path, std::filesystem::perms::owner_all, error);
     }
-}
-
-QString lockOwner(const QLockFile &lock)
-{
-    qint64 process = 0;
-    QString host;
-    QString program;
-    if (!lock.getLockInfo(&process, &host, &program)) {
-        return u"another program"_s;
-    }
-    return u"the program %1 (process %2)"_s.arg(quoted(program), QString::number(process));
-}
-
-/// Why the lock could not be taken, and what to do.
-QString lockProblem(const QLockFile &lock)
-{
-    switch (lock.error()) {
-    case QLockFile::LockFailedError:
-        return u"%1 keeps it locked; wait for that program or end it, and save again"_s.arg(lockOwner(lock));
-    case QLockFile::PermissionError:
-        return u"its folder is not writable; make it writable and save again"_s;
-    default:
-        return u"no lock file can be written beside it; make room on the disk and save again"_s;
-    }
-}
-
-/// Whether the lock was not made just now; one from the future was made before the clock was set back.
-bool isOld(const QLockFile &lock)
-{
-    const QDateTime madeAt = QFileInfo(lock.fileName()).lastModified();
-    const auto age = std::chrono::milliseconds(madeAt.msecsTo(QDateTime::currentDateTime()));
-    return madeAt.isValid() && (age > abandonedLockAge || age < -abandonedLockAge);
-}
-
-/// Waits for the lock. The waiting of `QLockFile` itself has pauses that soon get longer than a second, and would never
-/// get a turn beside a program that saves all the time.
-void take(QLockFile &lock, const QString &path)
-{
-    const QDeadlineTimer deadline(longestWaitForLock);
-    while (!lock.tryLock()) {
-        if (lock.error() != QLockFile::LockFailedError || deadline.hasExpired()) {
-            throw notSaved(path, lockProblem(lock));
-        }
-        // The lock of a program that was killed is taken over at once, unless it was killed before it had written into
-        // the lock whose it is, or while it took over another. One that is still in use is not removed by this.
-        if (isOld(lock)) {
-            lock.removeStaleLockFile();
-        }
-        std::this_thread::sleep_for(pauseBetweenTries);
+    if (error) {
+        throw DefaultsError{
+            u"The settings folder %1 cannot be made: %2; make it yourself, or make the folder around it "
+            "writable, and save again."_s.arg(quoted(folder), reason(error))};
     }
 }
 
@@ -134,6 +86,7 @@ void take(QLockFile &lock, const QString &path)
 DefaultsFile::DefaultsFile(const QString &folder, const QString &domain)
     : m_folder(folder), m_path(folder + u'/' + domain + suffix)
 {
+    requireFolder(folder);
     if (!isDomainName(domain)) {
         throw DefaultsError{
             u"%1 cannot name a settings domain: use a name like com.example.plain-text, at most %2 bytes "
@@ -144,16 +97,21 @@ DefaultsFile::DefaultsFile(const QString &folder, const QString &domain)
 
 QStringList DefaultsFile::domainNames(const QString &folder)
 {
-    const QDir dir(folder);
-    if (dir.exists() && !dir.isReadable()) {
-        throw DefaultsError{u"The settings folder %1 cannot be read: make it readable."_s.arg(quoted(folder))};
-    }
+    requireFolder(folder);
     QStringList names;
-    for (const QString &file : dir.entryList({u'*' + suffix}, QDir::Files | QDir::CaseSensitive)) {
-        const QString name = file.chopped(suffix.size());
-        if (isDomainName(name)) {
+    std::error_code error;
+    auto entry = std::filesystem::directory_iterator(systemPath(folder), error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        const QString file = QFileInfo(entry->path()).fileName();
+        const QString name = file.chopped(std::min(suffix.size(), file.size()));
+        std::error_code ignored;
+        if (file.endsWith(suffix) && isDomainName(name) && entry->is_regular_file(ignored)) {
             names.append(name);
         }
+    }
+    if (error && error != std::errc::no_such_file_or_directory) {
+        throw DefaultsError{u"The settings folder %1 cannot be read: %2; correct this and try again."_s.arg(
+            quoted(folder), reason(error))};
     }
     names.sort();
     return names;
@@ -173,9 +131,10 @@ DomainContents DefaultsFile::read() const
 QString DefaultsFile::save(const DomainChange &change) const
 {
     makeFolder(m_folder);
-    QLockFile lock(m_path + u".lock"_s);
-    take(lock, m_path);
-
+    DefaultsLock lock(m_path);
+    if (const QString problem = lock.take(); !problem.isEmpty()) {
+        throw notSaved(m_path, problem);
+    }
     const Reading reading = tryRead();
     QString notice = reading.problem.isEmpty() ? QString() : keepAside(reading.problem);
     if (const DomainContents contents = change.appliedTo(reading.contents)) {
@@ -195,38 +154,24 @@ void DefaultsFile::requireWritable(const QVariantMap &values) const
     }
 }
 
-/// Throws where reading fails for a reason that may pass, as a disk error or too many open files: nothing must be
+/// Throws where the system fails for a reason that may pass, as a disk error or too many open files: nothing must be
 /// concluded from that about the file.
 DefaultsFile::Reading DefaultsFile::tryRead() const
 {
-    const auto failure = [this](const QString &reason) {
-        return DefaultsError{
-            u"The settings file %1 cannot be read: %2; correct this and try again."_s.arg(quoted(m_path), reason)};
-    };
-    const QFileInfo info(m_path);
-    std::error_code error;
-    switch (std::filesystem::status(info.filesystemFilePath(), error).type()) {
-    case std::filesystem::file_type::not_found:
+    const FileReading file = readFile(m_path);
+    switch (file.outcome) {
+    case FileReading::Outcome::Missing:
         return {};
-    case std::filesystem::file_type::none:
-        throw failure(QString::fromStdString(error.message()));
-    case std::filesystem::file_type::regular:
-        break;
-    default:
+    case FileReading::Outcome::NoFile:
         return {std::nullopt, u"it is not a file"_s};
-    }
-    if (!info.isReadable()) {
+    case FileReading::Outcome::Hidden:
         return {std::nullopt, u"its permissions forbid it"_s};
+    case FileReading::Outcome::Failed:
+        throw notRead(file.problem);
+    case FileReading::Outcome::Read:
+        break;
     }
-    QFile file(m_path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw failure(file.errorString());
-    }
-    const QByteArray data = file.readAll();
-    if (file.error() != QFile::NoError) {
-        throw failure(file.errorString());
-    }
-    const PropertyList::ReadResult list = PropertyList::read(data, PropertyList::XmlUids::AsDictionaries);
+    const PropertyList::ReadResult list = PropertyList::read(file.data, PropertyList::XmlUids::AsDictionaries);
     if (!list.value) {
         return {std::nullopt, list.error};
     }
@@ -239,22 +184,29 @@ DefaultsFile::Reading DefaultsFile::tryRead() const
 QString DefaultsFile::keepAside(const QString &problem) const
 {
     const QString kept = nameToKeep();
-    QFile file(m_path);
-    if (!file.rename(kept)) {
+    std::error_code error;
+    std::filesystem::rename(systemPath(m_path), systemPath(kept), error);
+    if (error) {
         throw notSaved(m_path, u"what is there (%1) cannot be renamed to %2 (%3); move it away and save again"_s.arg(
-                                   problem, quoted(kept), file.errorString()));
+                                   problem, quoted(kept), reason(error)));
     }
     return u"The settings file %1 could not be read: %2; it is kept as %3, repair it there."_s.arg(
         quoted(m_path), problem, quoted(kept));
 }
 
-/// The first free name for what cannot be read.
+/// The first free name for what cannot be read. Throws when the system does not tell whether a name is free.
 QString DefaultsFile::nameToKeep() const
 {
     for (int number = 1;; ++number) {
-        QString name = m_path + keptSuffix + QString::number(number);
-        if (!QFileInfo::exists(name) && !QFileInfo(name).isSymLink()) {
+        const QString name = m_path + keptSuffix + QString::number(number);
+        std::error_code error;
+        switch (std::filesystem::symlink_status(systemPath(name), error).type()) {
+        case std::filesystem::file_type::not_found:
             return name;
+        case std::filesystem::file_type::none:
+            throw notRead(reason(error));
+        default:
+            break;
         }
     }
 }
@@ -268,9 +220,14 @@ QByteArray DefaultsFile::serialized(const QVariantMap &contents) const
     return *list.data;
 }
 
-DefaultsError DefaultsFile::notWritable(const QString &reason) const
+DefaultsError DefaultsFile::notRead(const QString &why) const
 {
-    return notSaved(m_path, reason + u"; give it another value"_s);
+    return {u"The settings file %1 cannot be read: %2; correct this and try again."_s.arg(quoted(m_path), why)};
+}
+
+DefaultsError DefaultsFile::notWritable(const QString &why) const
+{
+    return notSaved(m_path, why + u"; give it another value"_s);
 }
 
 void DefaultsFile::replace(const QVariantMap &contents) const
@@ -290,17 +247,18 @@ void DefaultsFile::replace(const QVariantMap &contents) const
 
 void DefaultsFile::remove() const
 {
-    QFile file(m_path);
-    if (!file.remove()) {
+    std::error_code error;
+    std::filesystem::remove(systemPath(m_path), error);
+    if (error) {
         throw DefaultsError{u"The settings file %1 was not removed: %2; correct this and try again."_s.arg(
-            quoted(m_path), file.errorString())};
+            quoted(m_path), reason(error))};
     }
     try {
         DiskFolder::open(m_folder)->flush();
-    } catch (const DiskError &error) {
+    } catch (const DiskError &failure) {
         throw DefaultsError{
             u"The settings file %1 was removed, but may be back if the computer stops now: its folder was "
-            "not written to disk (%2); correct this and try again."_s.arg(quoted(m_path), error.reason)};
+            "not written to disk (%2); correct this and try again."_s.arg(quoted(m_path), failure.reason)};
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <OrvaneExportKit/platform/DefaultsError.h>
 #include <OrvaneExportKit/platform/DomainChange.h>
 
 #include <QtCore/QString>
@@ -7,20 +8,14 @@
 
 namespace platform {
 
-/// Why a domain cannot be read or saved. Thrown inside the library alone: `UserDefaults` hands it to its callers as a
-/// value.
-struct DefaultsError {
-    QString description; ///< one sentence that names the file and says what to do
-};
-
 /// The file that keeps one domain, `<domain>.plist` in the folder.
 ///
-/// Programs that save at the same time take turns through a lock file. Readers need no lock: a file is replaced as a
+/// Programs that save at the same time take turns (`DefaultsLock`). Readers need no lock: a file is replaced as a
 /// whole, so that they meet the old or the new one.
 class DefaultsFile
 {
 public:
-    /// Throws a `DefaultsError` when `domain` cannot name a file in the folder.
+    /// Throws a `DefaultsError` when `domain` cannot name a file in the folder, and when `folder` is empty.
     DefaultsFile(const QString &folder, const QString &domain);
 
     /// The domains that have a file in the folder, sorted. Throws when the folder cannot be read.
@@ -46,7 +41,8 @@ private:
     QString keepAside(const QString &problem) const;
     QString nameToKeep() const;
     QByteArray serialized(const QVariantMap &contents) const;
-    DefaultsError notWritable(const QString &reason) const;
+    DefaultsError notRead(const QString &why) const;
+    DefaultsError notWritable(const QString &why) const;
     void replace(const QVariantMap &contents) const;
     void remove() const;
 

@@ -118,6 +118,31 @@ std::string pathIn(int folder, const char *name)
     return *name == '/' ? std::string(name) : pathOf(folder) + '/' + name;
 }
 
+bool endsWith(std::string_view text, std::string_view end)
+{
+    return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
+}
+
+bool isSettingsFile(std::string_view path)
+{
+    return endsWith(path, ".plist");
+}
+
+bool openFails(const char *path, int flags)
+{
+    const std::string vanished = environmentValue("ORVANE_FAULT_VANISHED");
+    if (!vanished.empty() && isMet(path) && endsWith(path, vanished)) {
+        errno = ENOENT;
+        return true;
+    }
+    const bool isLockFile = std::string_view(path).find(".lock") != std::string_view::npos;
+    const bool isReadOnly = (flags & O_ACCMODE) == O_RDONLY;
+    static Failure ofLockFiles("ORVANE_FAULT_LOCK_FILE");
+    static Failure ofReading("ORVANE_FAULT_OPEN");
+    return (isLockFile && ofLockFiles.isMet(std::string_view(path))) ||
+           (isSettingsFile(path) && isReadOnly && ofReading.isMet(std::string_view(path)));
+}
+
 /// How many bytes the next write takes of those that it is given.
 std::size_t takenBytes(std::size_t size)
 {
@@ -201,7 +226,7 @@ ORVANE_FAULT int open(const char *path, int flags, ...)
 {
     static const auto realOpen = real<int(const char *, int, mode_t)>("open");
     static Failure ofFolders("ORVANE_FAULT_OPEN_FOLDER");
-    if ((flags & O_DIRECTORY) != 0 && ofFolders.isMet(std::string_view(path))) {
+    if (((flags & O_DIRECTORY) != 0 && ofFolders.isMet(std::string_view(path))) || openFails(path, flags)) {
         return -1;
     }
     va_list arguments;
@@ -228,22 +253,32 @@ ORVANE_FAULT int openat(int folder, const char *path, int flags, ...)
 ORVANE_FAULT int open64(const char *path, int flags, ...)
 {
     static const auto realOpen = real<int(const char *, int, mode_t)>("open64");
-    const std::string_view view = path;
-    const std::string vanished = environmentValue("ORVANE_FAULT_VANISHED");
-    if (!vanished.empty() && isMet(view) && view.size() >= vanished.size() &&
-        view.substr(view.size() - vanished.size()) == vanished) {
-        errno = ENOENT;
-        return -1;
-    }
-    static Failure ofLockFiles("ORVANE_FAULT_LOCK_FILE");
-    if (view.find(".lock") != std::string_view::npos && ofLockFiles.isMet(view)) {
-        return -1;
-    }
     va_list arguments;
     va_start(arguments, flags);
     const auto mode = static_cast<mode_t>(va_arg(arguments, unsigned));
     va_end(arguments);
-    return realOpen(path, flags, mode);
+    return openFails(path, flags) ? -1 : realOpen(path, flags, mode);
+}
+
+ORVANE_FAULT ssize_t read(int file, void *bytes, std::size_t size)
+{
+    static const auto realRead = real<ssize_t(int, void *, std::size_t)>("read");
+    static Failure failure("ORVANE_FAULT_READ");
+    return failure.isMet(file) ? -1 : realRead(file, bytes, size);
+}
+
+ORVANE_FAULT int access(const char *path, int mode) noexcept
+{
+    static const auto realAccess = real<int(const char *, int)>("access");
+    static Failure failure("ORVANE_FAULT_ACCESS");
+    return isSettingsFile(path) && failure.isMet(std::string_view(path)) ? -1 : realAccess(path, mode);
+}
+
+ORVANE_FAULT int stat(const char *path, struct stat *status) noexcept
+{
+    static const auto realStat = real<int(const char *, struct stat *)>("stat");
+    static Failure failure("ORVANE_FAULT_STAT");
+    return isSettingsFile(path) && failure.isMet(std::string_view(path)) ? -1 : realStat(path, status);
 }
 
 ORVANE_FAULT int flock(int file, int operation) noexcept

@@ -23,6 +23,10 @@
 /// | `FILE_SYSTEM`   | the number by which the system knows the kind of the file system, in decimal digits   |
 /// | `VANISHED`      | the end of the path of a file that is gone when it is opened                          |
 /// | `LOCK_FILE`     | the number of the error that every opening of a lock file fails with                  |
+/// | `STAT`          | the number of the error that every look at a settings file fails with                 |
+/// | `ACCESS`        | the number of the error that asking for the rights to a settings file fails with      |
+/// | `OPEN`          | the number of the error that every opening of a settings file to be read fails with   |
+/// | `READ`          | the number of the error that every reading of a file fails with                       |
 /// | `LOCK`          | any: the file system knows no locks                                                   |
 /// | `CLOCK`         | by how many seconds the clock has been set forward, or back where that is negative    |
 ///
