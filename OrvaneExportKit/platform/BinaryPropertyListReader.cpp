@@ -64,6 +64,13 @@ QVariant readUtf16String(const BinaryObject &object)
     return string;
 }
 
+/// The format has a null, which no value of a property list is and XML cannot hold.
+bool readBoolean(const BinaryObject &object)
+{
+    requireAtByte(object.marker != binaryNull, object.position, u"a null is not a property-list value");
+    return object.marker == binaryTrue;
+}
+
 QVariant readScalar(const BinaryObject &object)
 {
     switch (object.type) {
@@ -82,7 +89,7 @@ QVariant readScalar(const BinaryObject &object)
     case BinaryType::Uid:
         return readUid(object);
     default:
-        return object.marker == binaryNull ? QVariant::fromValue(nullptr) : QVariant(object.marker == binaryTrue);
+        return readBoolean(object);
     }
 }
 

@@ -31,7 +31,6 @@ namespace platform {
 /// | array      | `QVariantList`, `QStringList`                     | `QVariantList`; so is a set in a binary list  |
 /// | dictionary | `QVariantMap`, `QVariantHash`                     | `QVariantMap`                                 |
 /// | UID        | `PropertyList::Uid`                               | `PropertyList::Uid`                           |
-/// | null       | never                                             | `nullptr`, from a binary list only            |
 ///
 /// Reals come back exactly; a `float` comes back as the `double` of the same value. Dates keep their milliseconds in
 /// the binary format and lose everything below a second in XML. Dictionaries are written in the order of their keys,
@@ -81,8 +80,8 @@ struct ORVANE_CORE_EXPORT PropertyList {
     /// that stands in it; values that a binary list refers to more than once are shared.
     ///
     /// Refused, beside what is malformed: deeper nesting than `maximumNesting`, XML with a document type of its own
-    /// (so that no entity can expand), binary objects that overlap or hold themselves, and dates more than 292 million
-    /// years away.
+    /// (so that no entity can expand), binary objects that overlap or hold themselves, the null of binary lists, and
+    /// dates more than 292 million years away.
     static ReadResult read(QByteArrayView data, XmlUids xmlUids = XmlUids::AsUids);
 
     /// Writes a value in the given format.

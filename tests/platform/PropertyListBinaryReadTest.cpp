@@ -84,7 +84,6 @@ TEST_P(PropertyListBinaryValue, IsRead)
 }
 
 const Case scalars[] = {
-    {"Null", {{u"00"_s}}, "a value of type std::nullptr_t"},
     {"False", {{u"08"_s}}, "false"},
     {"True", {{u"09"_s}}, "true"},
     {"OneByteInteger", {{u"10ff"_s}}, "i255"},
@@ -307,6 +306,8 @@ const Case objects[] = {
      {.objects = {u"df131000000000000000"_s}, .referenceSize = 8},
      "byte 8: " + tooLong},
     {"CountOfSixteenBytesBeyondAllBounds", {{u"4f1400000000000000010000000000000000"_s}}, "byte 8: " + tooLong},
+    {"Null", {{u"00"_s}}, "byte 8: a null is not a property-list value"},
+    {"NullInAnArray", {{u"a101"_s, u"00"_s}}, "byte 10: a null is not a property-list value"},
     {"StringIsNotAscii", {{u"5361 e4 61"_s}}, "byte 8: this string is not ASCII"},
     {"UidAboveTheRange", {{u"840100000000"_s}}, "byte 8: this UID is above 4294967295"},
     {"UidFarAboveTheRange", {{u"8f01000000000000000000000000000000"_s}}, "byte 8: this UID is above 4294967295"},
