@@ -68,7 +68,9 @@ void saveByKit(benchmark::State &state, const QString &folderTemplate)
     }
     for (auto _ : state) {
         settings.insert(u"saved"_s, ++saves);
-        defaults.setPersistentDomain(settings, domain);
+        if (!defaults.setPersistentDomain(settings, domain)) {
+            state.SkipWithError("the settings were not saved");
+        }
     }
 }
 

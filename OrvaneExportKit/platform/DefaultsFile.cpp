@@ -198,7 +198,7 @@ QString DefaultsFile::keepAside(const QString &problem) const
 QString DefaultsFile::nameToKeep() const
 {
     for (int number = 1;; ++number) {
-        const QString name = m_path + keptSuffix + QString::number(number);
+        QString name = m_path + keptSuffix + QString::number(number);
         std::error_code error;
         switch (std::filesystem::symlink_status(systemPath(name), error).type()) {
         case std::filesystem::file_type::not_found:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
 #include <optional>
@@ -28,6 +29,11 @@ public:
     void append(const DomainChange &later);
 
     DomainContents appliedTo(const DomainContents &contents) const;
+
+    bool replacesDomain() const { return m_replacesDomain; }
+
+    /// The keys that are set or removed, beside a replacement.
+    QStringList keys() const { return m_entries.keys(); }
 
 private:
     bool m_replacesDomain = false;

@@ -2,6 +2,7 @@
 
 #include <OrvaneExportKit/platform/DefaultsFile.h>
 #include <OrvaneExportKit/platform/DomainChange.h>
+#include <OrvaneExportKit/platform/RefusedChanges.h>
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
@@ -14,73 +15,106 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
+/// Whether the configuration folder that Qt names is the user's. Without HOME, Qt takes the root folder for the home.
+bool hasConfigurationFolder()
+{
+    return !qEnvironmentVariableIsEmpty("HOME") || QDir::homePath() != QDir::rootPath() ||
+           QDir::isAbsolutePath(qEnvironmentVariable("XDG_CONFIG_HOME"));
+}
+
+/// Empty when there is none.
 QString standardFolder()
 {
     const QString named = qEnvironmentVariable("ORVANE_DEFAULTS_FOLDER");
-    return named.isEmpty()
-               ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/orvane-export-kit"_s
-               : named;
+    if (!named.isEmpty() || !hasConfigurationFolder()) {
+        return named;
+    }
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/orvane-export-kit"_s;
+}
+
+/// Keeps the first thing that a call met.
+void report(QString &error, const QString &sentence)
+{
+    if (error.isEmpty()) {
+        error = sentence;
+    }
+}
+
+/// What a reading function gives besides its result.
+void giveTo(QString *receiver, const QString &error)
+{
+    if (receiver != nullptr) {
+        *receiver = error;
+    }
 }
 
 } // namespace
 
+// The reading functions change nothing in here.
 struct UserDefaults::State {
-    QString folder;
+    QString folder; ///< empty when there is none
     QString applicationDomain;
     QVariantMap registered;
     QMap<QString, DomainChange> unsaved; ///< by the name of the domain
+    RefusedChanges refused;
     QString lastError;
 
-    /// Keeps the first thing that a call met.
-    void report(const QString &sentence)
-    {
-        if (lastError.isEmpty()) {
-            lastError = sentence;
-        }
-    }
-
     /// What the domain holds, with what is not on disk yet; reports a file that cannot be read.
-    DomainContents contents(const QString &domain);
+    DomainContents contents(const QString &domain, QString &error) const;
 
-    /// Adds a change and saves it, unless the new values that it brings are refused.
-    bool change(const QString &domain, const DomainChange &change, const QVariantMap &newValues);
+    /// Adds a change and saves it, unless the values that it brings are refused; a removal brings none.
+    bool change(const QString &domain, const DomainChange &change, const std::optional<QVariantMap> &newValues);
+
+    bool refuse(const QString &domain, const DomainChange &change, const QString &sentence);
 
     /// Tries to save what is not on disk yet.
     bool save(const QString &domain);
 };
 
-DomainContents UserDefaults::State::contents(const QString &domain)
+DomainContents UserDefaults::State::contents(const QString &domain, QString &error) const
 {
     DomainContents saved;
     try {
         saved = DefaultsFile(folder, domain).read();
-    } catch (const DefaultsError &error) {
-        report(error.description);
+    } catch (const DefaultsError &thrown) {
+        report(error, thrown.description);
     }
     return unsaved.value(domain).appliedTo(saved);
 }
 
-bool UserDefaults::State::change(const QString &domain, const DomainChange &change, const QVariantMap &newValues)
+bool UserDefaults::State::change(const QString &domain, const DomainChange &change,
+                                 const std::optional<QVariantMap> &newValues)
 {
     lastError.clear();
+    refused.replaceBy(domain, change);
     try {
-        DefaultsFile(folder, domain).requireWritable(newValues);
+        DefaultsFile(folder, domain).requireWritable(newValues.value_or(QVariantMap()));
     } catch (const DefaultsError &error) {
-        report(error.description);
+        if (newValues) {
+            return refuse(domain, change, error.description);
+        }
+        report(lastError, error.description); // what was to be removed cannot be there
         return false;
     }
     unsaved[domain].append(change);
     return save(domain);
 }
 
+bool UserDefaults::State::refuse(const QString &domain, const DomainChange &change, const QString &sentence)
+{
+    refused.add(domain, change, sentence);
+    lastError = sentence;
+    return false;
+}
+
 bool UserDefaults::State::save(const QString &domain)
 {
     try {
-        report(DefaultsFile(folder, domain).save(unsaved.value(domain)));
+        report(lastError, DefaultsFile(folder, domain).save(unsaved.value(domain)));
         unsaved.remove(domain);
         return true;
     } catch (const DefaultsError &error) {
-        report(error.description);
+        report(lastError, error.description);
         return false;
     }
 }
@@ -93,7 +127,9 @@ UserDefaults &UserDefaults::standardUserDefaults()
 
 UserDefaults::UserDefaults(const QString &folder) : m_state(std::make_unique<State>())
 {
-    m_state->folder = QDir(folder).absolutePath();
+    if (!folder.isEmpty()) {
+        m_state->folder = QDir(folder).absolutePath();
+    }
 }
 
 UserDefaults::~UserDefaults() = default;
@@ -113,19 +149,20 @@ void UserDefaults::setApplicationDomain(const QString &name)
     m_state->applicationDomain = name;
 }
 
-QVariant UserDefaults::objectForKey(const QString &key) const
+QVariant UserDefaults::objectForKey(const QString &key, QString *error) const
 {
-    return dictionaryRepresentation().value(key);
+    return dictionaryRepresentation(error).value(key);
 }
 
-QVariantMap UserDefaults::dictionaryRepresentation() const
+QVariantMap UserDefaults::dictionaryRepresentation(QString *error) const
 {
-    m_state->lastError.clear();
+    QString met;
     QVariantMap values = m_state->registered;
-    values.insert(m_state->contents(globalDomain()).value_or(QVariantMap()));
+    values.insert(m_state->contents(globalDomain(), met).value_or(QVariantMap()));
     if (const QString own = applicationDomain(); !own.isEmpty()) {
-        values.insert(m_state->contents(own).value_or(QVariantMap()));
+        values.insert(m_state->contents(own, met).value_or(QVariantMap()));
     }
+    giveTo(error, met);
     return values;
 }
 
@@ -136,22 +173,25 @@ void UserDefaults::registerDefaults(const QVariantMap &defaults)
 
 bool UserDefaults::setObject(const QVariant &value, const QString &key)
 {
+    const auto change = DomainChange::entry(key, value);
     if (key.isEmpty()) {
-        m_state->lastError = u"A setting without a key cannot be saved: give it a key."_s;
-        return false;
+        return m_state->refuse(applicationDomain(), change,
+                               u"A setting without a key cannot be saved: give it a key."_s);
     }
-    return m_state->change(applicationDomain(), DomainChange::entry(key, value), {{key, value}});
+    return m_state->change(applicationDomain(), change, QVariantMap{{key, value}});
 }
 
 bool UserDefaults::removeObjectForKey(const QString &key)
 {
-    return m_state->change(applicationDomain(), DomainChange::entry(key, {}), {});
+    return m_state->change(applicationDomain(), DomainChange::entry(key, {}), std::nullopt);
 }
 
-std::optional<QVariantMap> UserDefaults::persistentDomainForName(const QString &name) const
+std::optional<QVariantMap> UserDefaults::persistentDomainForName(const QString &name, QString *error) const
 {
-    m_state->lastError.clear();
-    return m_state->contents(name);
+    QString met;
+    auto contents = m_state->contents(name, met);
+    giveTo(error, met);
+    return contents;
 }
 
 bool UserDefaults::setPersistentDomain(const QVariantMap &domain, const QString &name)
@@ -161,25 +201,26 @@ bool UserDefaults::setPersistentDomain(const QVariantMap &domain, const QString 
 
 bool UserDefaults::removePersistentDomainForName(const QString &name)
 {
-    return m_state->change(name, DomainChange::replacement(std::nullopt), {});
+    return m_state->change(name, DomainChange::replacement(std::nullopt), std::nullopt);
 }
 
-QStringList UserDefaults::persistentDomainNames() const
+QStringList UserDefaults::persistentDomainNames(QString *error) const
 {
-    m_state->lastError.clear();
+    QString met;
     QStringList names;
     try {
         names = DefaultsFile::domainNames(m_state->folder);
-    } catch (const DefaultsError &error) {
-        m_state->report(error.description);
+    } catch (const DefaultsError &thrown) {
+        report(met, thrown.description);
     }
     for (const QString &unsaved : m_state->unsaved.keys()) {
         names.removeAll(unsaved);
-        if (m_state->contents(unsaved)) {
+        if (m_state->contents(unsaved, met)) {
             names.append(unsaved);
         }
     }
     names.sort();
+    giveTo(error, met);
     return names;
 }
 
@@ -189,7 +230,8 @@ bool UserDefaults::synchronize()
     for (const QString &domain : m_state->unsaved.keys()) {
         m_state->save(domain);
     }
-    return m_state->unsaved.isEmpty();
+    report(m_state->lastError, m_state->refused.sentence());
+    return m_state->unsaved.isEmpty() && m_state->refused.isEmpty();
 }
 
 QString UserDefaults::lastError() const

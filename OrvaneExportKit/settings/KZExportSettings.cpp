@@ -128,10 +128,11 @@ QStringList KZExportSettings::quotationStrings(const QMetaObject &receiver)
     return platform::quotationSamples(platform::Bundle::bundleForClass(receiver));
 }
 
-bool KZExportSettings::readSettingsFromDefaults()
+bool KZExportSettings::readSettingsFromDefaults(QString *error)
 {
     warnOfMissingOperation(metaObject());
-    const auto domain = platform::UserDefaults::standardUserDefaults().persistentDomainForName(m_bundleIdentifier);
+    const auto domain =
+        platform::UserDefaults::standardUserDefaults().persistentDomainForName(m_bundleIdentifier, error);
     if (domain) {
         setDefaultDictionary(*domain);
     }
@@ -140,8 +141,13 @@ bool KZExportSettings::readSettingsFromDefaults()
 
 void KZExportSettings::writeSettingsToDefaults() const
 {
+    [[maybe_unused]] const bool isSaved = saveToDefaults(); // the defaults remember when it is not
+}
+
+bool KZExportSettings::saveToDefaults() const
+{
     warnOfMissingOperation(metaObject());
-    platform::UserDefaults::standardUserDefaults().setPersistentDomain(m_settingsDict, m_bundleIdentifier);
+    return platform::UserDefaults::standardUserDefaults().setPersistentDomain(m_settingsDict, m_bundleIdentifier);
 }
 
 QByteArray KZExportSettings::defaultData() const

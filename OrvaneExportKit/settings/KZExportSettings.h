@@ -83,12 +83,17 @@ public:
     /// The same from the bundle that any class names, see `platform::Bundle::bundleForClass`.
     static QStringList quotationStrings(const QMetaObject &receiver);
 
-    /// Replaces the settings by the saved ones. Answers false, and changes nothing, when none are saved.
-    bool readSettingsFromDefaults();
+    /// Replaces the settings by the saved ones. Answers false, and changes nothing, when none are saved, and when they
+    /// cannot be read; then `error`, which may be null, receives why, else an empty text.
+    bool readSettingsFromDefaults(QString *error = nullptr);
 
-    /// Saves the settings; they are on disk when the call returns. `platform::UserDefaults` says when that failed, and
-    /// tries again when it is asked to synchronise.
+    /// Saves the settings in the standard user defaults. When that fails, `platform::UserDefaults::synchronize` answers
+    /// false until it has succeeded or the settings are saved anew.
     void writeSettingsToDefaults() const;
+
+    /// The same. True when the settings are on disk; else `lastError` of the standard user defaults says why, and names
+    /// the key of a value that is not a property-list value.
+    [[nodiscard]] bool saveToDefaults() const;
 
     /// The settings as an XML property list. Null, after an alert, when they hold a value that is not a property-list
     /// value.

@@ -13,8 +13,9 @@ namespace host {
 QString loadSavedSettings(KZExportSettings &settings)
 {
     const QVariantMap defaults = settings.defaultDictionary();
-    if (!settings.readSettingsFromDefaults()) {
-        return UserDefaults::standardUserDefaults().lastError();
+    QString error;
+    if (!settings.readSettingsFromDefaults(&error)) {
+        return error;
     }
     for (auto item = defaults.cbegin(); item != defaults.cend(); ++item) {
         if (!settings.objectForKey(item.key()).isValid()) {
@@ -26,8 +27,7 @@ QString loadSavedSettings(KZExportSettings &settings)
 
 void saveSettings(const KZExportSettings &settings)
 {
-    settings.writeSettingsToDefaults();
-    if (!UserDefaults::standardUserDefaults().synchronize()) {
+    if (!settings.saveToDefaults()) {
         throw HostError(
             ExitCode::Output,
             Texts::tr("the settings can't be saved: %1").arg(UserDefaults::standardUserDefaults().lastError()));

@@ -108,6 +108,17 @@ TEST_F(Settings, ThatCannotBeReadAreWarnedOfAndKeptAside)
     EXPECT_EQ(defaults().persistentDomainForName(domain)->value(u"tab-width"_s), u"2"_s);
 }
 
+TEST_F(Settings, ThatXmlCannotHoldAreAnErrorThatNamesTheirKey)
+{
+    // {"subtitle": half a surrogate pair}, as a binary property list
+    const QString file = path(u"settings.plist"_s);
+    writeFile(file, QByteArray::fromHex("62706c6973743030 d10102 587375627469746c65 61d800 080b14 0000000000000101"
+                                        "0000000000000003 0000000000000000 0000000000000017"));
+    EXPECT_TRUE(failedWith(4, {u"can't be saved"_s, u"subtitle: the string holds half a surrogate pair"_s},
+                           runExport({u"--settings"_s, file, u"--save-settings"_s})));
+    EXPECT_EQ(defaults().persistentDomainNames(), QStringList());
+}
+
 TEST_F(Settings, ThatCannotBeSavedAreAnErrorBeforeAnythingIsWritten)
 {
     writeFile(defaultsFolder(), "a file where the folder should be");

@@ -47,8 +47,9 @@ class PersistentDomain : public UserDefaultsTest
 
 TEST_F(PersistentDomain, IsNothingBeforeItIsSet)
 {
-    EXPECT_EQ(defaults.persistentDomainForName(plainText), std::nullopt);
-    EXPECT_EQ(defaults.lastError(), QString());
+    QString error = u"old"_s;
+    EXPECT_EQ(defaults.persistentDomainForName(plainText, &error), std::nullopt);
+    EXPECT_EQ(error, QString());
     EXPECT_EQ(support::filesBelow(folder()), (QMap<QString, QByteArray>()));
 }
 
@@ -120,8 +121,9 @@ TEST_F(PersistentDomain, ReadsABinaryPropertyListAndSavesXml)
     support::writeFile(path(plainText), QByteArray::fromHex("62706c6973743030d1010251615162080b0d"
                                                             "0000000000000101000000000000000300000000000000"
                                                             "00000000000000000f"));
-    EXPECT_EQ(defaults.persistentDomainForName(plainText), (QVariantMap{{u"a"_s, u"b"_s}}))
-        << testing::PrintToString(defaults.lastError());
+    QString error;
+    EXPECT_EQ(defaults.persistentDomainForName(plainText, &error), (QVariantMap{{u"a"_s, u"b"_s}}))
+        << testing::PrintToString(error);
     defaults.setApplicationDomain(plainText);
     EXPECT_TRUE(defaults.setObject(u"d"_s, u"c"_s));
     EXPECT_TRUE(support::fileContent(path(plainText)).startsWith("<?xml"));
@@ -132,9 +134,11 @@ TEST_F(PersistentDomain, MakesItsFolderForItsOwnerAlone)
 {
     const QString deepFolder = parentFolder() + u"/configuration/of/defaults"_s;
     UserDefaults deep(deepFolder);
-    EXPECT_EQ(deep.persistentDomainForName(plainText), std::nullopt);
-    EXPECT_EQ(deep.persistentDomainNames(), QStringList());
-    EXPECT_EQ(deep.lastError(), QString());
+    QString error;
+    EXPECT_EQ(deep.persistentDomainForName(plainText, &error), std::nullopt);
+    EXPECT_EQ(error, QString());
+    EXPECT_EQ(deep.persistentDomainNames(&error), QStringList());
+    EXPECT_EQ(error, QString());
     EXPECT_FALSE(QFileInfo::exists(parentFolder() + u"/configuration"_s));
     EXPECT_TRUE(deep.setPersistentDomain({{u"a"_s, 1}}, plainText));
     EXPECT_TRUE(belongsToOwnerAlone(deepFolder));
@@ -162,9 +166,109 @@ TEST_F(PersistentDomain, RefusesAValueThatIsNoPropertyListValueAndKeepsTheOldDom
         EXPECT_TRUE(support::contains(defaults.lastError(), path(plainText)));
         EXPECT_TRUE(support::contains(defaults.lastError(), u"font: "_s));
         EXPECT_EQ(defaults.persistentDomainForName(plainText), (QVariantMap{{u"a"_s, 1}}));
-        EXPECT_TRUE(defaults.synchronize());
+        EXPECT_FALSE(defaults.synchronize());
+        EXPECT_TRUE(support::contains(defaults.lastError(), u"font: "_s));
     }
     EXPECT_EQ(support::filesBelow(folder()), files);
+}
+
+/// A value that XML cannot hold was set.
+class RefusedChange : public UserDefaultsTest
+{
+protected:
+    RefusedChange()
+    {
+        EXPECT_TRUE(defaults.setObject(1, u"a"_s));
+        EXPECT_FALSE(defaults.setObject(QString(QChar::Null), u"a"_s));
+    }
+
+    void expectKnown(const QString &piece)
+    {
+        EXPECT_FALSE(defaults.synchronize());
+        EXPECT_TRUE(support::contains(defaults.lastError(), piece));
+    }
+
+    void expectForgotten()
+    {
+        EXPECT_TRUE(defaults.synchronize());
+        EXPECT_EQ(defaults.lastError(), QString());
+    }
+};
+
+TEST_F(RefusedChange, StaysKnownWhileOtherThingsAreSavedAndRead)
+{
+    EXPECT_TRUE(defaults.setObject(2, u"b"_s));
+    EXPECT_TRUE(defaults.setPersistentDomain({{u"a"_s, 1}}, plainText));
+    EXPECT_TRUE(defaults.removeObjectForKey(u"b"_s));
+    EXPECT_EQ(defaults.objectForKey(u"a"_s), 1);
+    expectKnown(u"a: the string holds U+0000"_s);
+    expectKnown(path(defaults.applicationDomain()));
+}
+
+TEST_F(RefusedChange, IsForgottenOnceItsKeyIsSetOrRemoved)
+{
+    EXPECT_TRUE(defaults.setObject(2, u"a"_s));
+    expectForgotten();
+    EXPECT_FALSE(defaults.setObject(QString(QChar(0xD800)), u"a"_s));
+    expectKnown(u"a: the string holds half a surrogate pair"_s);
+    EXPECT_TRUE(defaults.removeObjectForKey(u"a"_s));
+    expectForgotten();
+}
+
+TEST_F(RefusedChange, IsForgottenOnceItsDomainIsSetOrRemoved)
+{
+    const QVariantMap refused{{u"font"_s, QVariant::fromValue<QObject *>(nullptr)}};
+    EXPECT_FALSE(defaults.setPersistentDomain(refused, defaults.applicationDomain()));
+    expectKnown(u"font: "_s);
+    EXPECT_TRUE(defaults.setObject(2, u"font"_s));
+    expectKnown(u"font: "_s); // of the domain as a whole
+    EXPECT_TRUE(defaults.setPersistentDomain({{u"b"_s, 1}}, defaults.applicationDomain()));
+    expectForgotten();
+    EXPECT_FALSE(defaults.setPersistentDomain(refused, defaults.applicationDomain()));
+    EXPECT_TRUE(defaults.removePersistentDomainForName(defaults.applicationDomain()));
+    expectForgotten();
+}
+
+TEST_F(RefusedChange, OfAKeyAndOfAnotherDomainAreBothKnown)
+{
+    EXPECT_FALSE(defaults.setPersistentDomain({}, u"a/b"_s));
+    EXPECT_TRUE(defaults.removeObjectForKey(u"a"_s));
+    expectKnown(u"\"a/b\" cannot name a settings domain"_s);
+    EXPECT_FALSE(defaults.removePersistentDomainForName(u"a/b"_s));
+    expectForgotten();
+}
+
+TEST_F(RefusedChange, MayBeOneWithoutAKey)
+{
+    EXPECT_TRUE(defaults.setObject(1, u"a"_s));
+    EXPECT_FALSE(defaults.setObject(1, QString()));
+    expectKnown(u"without a key"_s);
+}
+
+TEST_F(UserDefaultsTest, ReadingLeavesTheErrorOfTheLastChange)
+{
+    EXPECT_FALSE(defaults.setObject(QVariant(), u"a"_s));
+    const QString error = defaults.lastError();
+    EXPECT_FALSE(error.isEmpty());
+    EXPECT_EQ(defaults.persistentDomainNames(), QStringList());
+    EXPECT_EQ(defaults.dictionaryRepresentation(), QVariantMap());
+    EXPECT_EQ(defaults.persistentDomainForName(u"a/b"_s), std::nullopt);
+    EXPECT_EQ(defaults.lastError(), error);
+}
+
+TEST_F(UserDefaultsTest, WithoutAFolderReadAndSaveNothingAndSaySo)
+{
+    UserDefaults homeless{QString()};
+    EXPECT_EQ(homeless.folder(), QString());
+    QString error;
+    EXPECT_EQ(homeless.persistentDomainForName(plainText, &error), std::nullopt);
+    EXPECT_TRUE(support::contains(error, u"no folder for settings"_s));
+    EXPECT_EQ(homeless.persistentDomainNames(&error), QStringList());
+    EXPECT_TRUE(support::contains(error, u"no folder for settings"_s));
+    EXPECT_FALSE(homeless.setPersistentDomain({}, plainText));
+    EXPECT_FALSE(homeless.synchronize());
+    EXPECT_TRUE(support::contains(homeless.lastError(), u"HOME"_s));
+    EXPECT_TRUE(support::contains(homeless.lastError(), u"ORVANE_DEFAULTS_FOLDER"_s));
 }
 
 class RemovePersistentDomain : public UserDefaultsTest
@@ -199,9 +303,10 @@ TEST_F(UserDefaultsTest, PersistentDomainNamesAreSortedAndLeaveOutEverythingElse
         support::writeFile(folder() + u'/' + name, "<plist><dict/></plist>");
     }
     ASSERT_TRUE(QDir(folder()).mkdir(u"folder.plist"_s));
-    EXPECT_EQ(defaults.persistentDomainNames(),
+    QString error;
+    EXPECT_EQ(defaults.persistentDomainNames(&error),
               QStringList({u"GlobalDomain"_s, u"Größe x"_s, u"a.plist"_s, u"b"_s, u"damaged"_s}));
-    EXPECT_EQ(defaults.lastError(), QString());
+    EXPECT_EQ(error, QString());
 }
 
 class ObjectForKey : public UserDefaultsTest
@@ -210,8 +315,9 @@ class ObjectForKey : public UserDefaultsTest
 
 TEST_F(ObjectForKey, IsInvalidWhereNothingIsSet)
 {
-    EXPECT_FALSE(defaults.objectForKey(u"unit"_s).isValid());
-    EXPECT_EQ(defaults.lastError(), QString());
+    QString error;
+    EXPECT_FALSE(defaults.objectForKey(u"unit"_s, &error).isValid());
+    EXPECT_EQ(error, QString());
 }
 
 TEST_F(ObjectForKey, LooksIntoTheApplicationsDomainThenTheGlobalThenTheRegisteredDefaults)
@@ -245,8 +351,9 @@ TEST_F(ObjectForKey, GoesOnPastADomainThatCannotBeReadAndReportsIt)
 {
     setGlobal(u"unit"_s, u"global"_s);
     support::writeFile(path(u"org.example.writer"_s), "damaged");
-    EXPECT_EQ(defaults.objectForKey(u"unit"_s), u"global"_s);
-    EXPECT_TRUE(support::contains(defaults.lastError(), path(u"org.example.writer"_s)));
+    QString error;
+    EXPECT_EQ(defaults.objectForKey(u"unit"_s, &error), u"global"_s);
+    EXPECT_TRUE(support::contains(error, path(u"org.example.writer"_s)));
 }
 
 TEST_F(UserDefaultsTest, DictionaryRepresentationHoldsAllKeysWithTheValuesThatAreFound)
@@ -358,9 +465,12 @@ TEST_P(RefusedDomainName, ReadsAndWritesNothing)
 {
     const QString &name = GetParam().name;
     const auto files = support::filesBelow(parentFolder());
-    EXPECT_EQ(defaults.persistentDomainForName(name), std::nullopt);
-    EXPECT_TRUE(support::contains(defaults.lastError(), u"cannot name a settings domain"_s));
+    QString error;
+    EXPECT_EQ(defaults.persistentDomainForName(name, &error), std::nullopt);
+    EXPECT_TRUE(support::contains(error, u"cannot name a settings domain"_s));
     EXPECT_FALSE(defaults.setPersistentDomain({{u"a"_s, 1}}, name));
+    EXPECT_TRUE(support::contains(defaults.lastError(), u"cannot name a settings domain"_s));
+    EXPECT_FALSE(defaults.synchronize());
     EXPECT_TRUE(support::contains(defaults.lastError(), u"cannot name a settings domain"_s));
     EXPECT_FALSE(defaults.removePersistentDomainForName(name));
     EXPECT_TRUE(support::contains(defaults.lastError(), u"cannot name a settings domain"_s));

@@ -219,7 +219,8 @@ TEST_F(ExportSettings, RegisterTheTransformersOfTheObjectCreatedLast)
     }
     EXPECT_EQ(registeredFactor(), 2.54F / 72);
 
-    defaults().setPersistentDomain({{u"AppleMeasurementUnits"_s, u"Inches"_s}}, UserDefaults::globalDomain());
+    ASSERT_TRUE(
+        defaults().setPersistentDomain({{u"AppleMeasurementUnits"_s, u"Inches"_s}}, UserDefaults::globalDomain()));
     const auto second = KZExportSettings::initWithBundleIdentifier(domainName);
     for (qsizetype index = 0; index < names.size(); ++index) {
         EXPECT_NE(platform::valueTransformerForName(names[index]), before[index]) << names[index].toStdString();
@@ -263,7 +264,33 @@ TEST_F(ExportSettings, SayThroughTheDefaultsThatTheyCouldNotBeSaved)
     outside.setInteger(1, u"a"_s);
     outside.writeSettingsToDefaults();
     EXPECT_FALSE(defaults().lastError().isEmpty());
-    EXPECT_FALSE(outside.readSettingsFromDefaults());
+    EXPECT_FALSE(defaults().synchronize());
+    QString error;
+    EXPECT_FALSE(outside.readSettingsFromDefaults(&error));
+    EXPECT_TRUE(error.contains(u"../outside"_s));
+    EXPECT_FALSE(defaults().removePersistentDomainForName(u"../outside"_s));
+    EXPECT_TRUE(defaults().synchronize());
+}
+
+TEST_F(ExportSettings, SayWhichOfTheirValuesCannotBeSaved)
+{
+    for (const QVariant &value :
+         {QVariant(QSize(1, 2)), QVariant(QString(QChar::Null)), QVariant(QString(QChar(0xDC00)))}) {
+        settings.setInteger(1, u"saved"_s);
+        EXPECT_TRUE(settings.saveToDefaults());
+        settings.setObject(value, u"paperName"_s);
+        settings.setInteger(2, u"saved"_s);
+        settings.writeSettingsToDefaults();
+        EXPECT_FALSE(defaults().synchronize());
+        EXPECT_TRUE(defaults().lastError().contains(u"paperName: "_s)) << defaults().lastError().toStdString();
+        EXPECT_FALSE(settings.saveToDefaults());
+        EXPECT_TRUE(defaults().lastError().contains(u"paperName: "_s)) << defaults().lastError().toStdString();
+        EXPECT_EQ(defaults().persistentDomainForName(domainName), (QVariantMap{{u"saved"_s, 1}}));
+        settings.setObject(u"A4"_s, u"paperName"_s);
+        settings.writeSettingsToDefaults();
+        EXPECT_TRUE(defaults().synchronize());
+        settings.setDefaultDictionary({});
+    }
 }
 
 TEST_F(ExportSettings, ExportAndImportAnXmlPropertyList)
@@ -283,6 +310,17 @@ TEST_F(ExportSettings, ImportABinaryPropertyListToo)
     using platform::PropertyList;
     settings.setDefaultData(*PropertyList::write(QVariantMap{{u"a"_s, 5}}, PropertyList::Format::Binary).data);
     EXPECT_EQ(settings.integerForKey(u"a"_s), 5);
+}
+
+TEST_F(ExportSettings, RefuseABinaryPropertyListWithANullWhenItComesIn)
+{
+    // {"a": null}
+    settings.setDefaultData(QByteArray::fromHex("62706c6973743030 d10102 5161 00 080b0d 0000000000000101"
+                                                "0000000000000003 0000000000000000 000000000000000e"));
+    ASSERT_EQ(alert.errors.size(), 1);
+    EXPECT_EQ(alert.errors.first(), u"byte 13: a null is not a property-list value"_s);
+    EXPECT_TRUE(settings.defaultDictionary().isEmpty());
+    EXPECT_TRUE(settings.saveToDefaults());
 }
 
 TEST_F(ExportSettings, AlertAndGiveNoDataForAValueThatIsNone)

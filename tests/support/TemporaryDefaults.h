@@ -31,7 +31,7 @@ protected:
     {
         ASSERT_EQ(defaults().folder().toUtf8(), qgetenv("ORVANE_DEFAULTS_FOLDER"));
         for (const QString &domain : defaults().persistentDomainNames()) {
-            defaults().removePersistentDomainForName(domain);
+            ASSERT_TRUE(defaults().removePersistentDomainForName(domain));
         }
     }
 };

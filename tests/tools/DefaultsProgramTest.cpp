@@ -9,6 +9,7 @@
 
 #include <QtCore/QDateTime>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QProcess>
 #include <QtCore/QProcessEnvironment>
 #include <QtCore/QTimeZone>
@@ -363,6 +364,26 @@ TEST_F(DefaultsProgram, UsesTheConfigurationFolderOfTheUserWithoutAnotherFolder)
     environment.insert(u"XDG_CONFIG_HOME"_s, folder());
     EXPECT_TRUE(printed(run({u"write"_s, domainName, u"a"_s, u"b"_s}), QString()));
     EXPECT_EQ(support::filesBelow(folder()).keys(), QStringList{u"orvane-export-kit/com.example.plain-text.plist"_s});
+}
+
+TEST_F(DefaultsProgram, WithoutAHomeFolderWritesNothingToTheRootFolder)
+{
+    environment.remove(u"ORVANE_DEFAULTS_FOLDER"_s);
+    environment.remove(u"XDG_CONFIG_HOME"_s);
+    for (const bool isEmpty : {false, true}) {
+        environment.remove(u"HOME"_s);
+        if (isEmpty) {
+            environment.insert(u"HOME"_s, QString());
+        }
+        for (const QStringList &command :
+             {QStringList{u"read"_s, domainName}, QStringList{u"write"_s, domainName, u"a"_s, u"b"_s},
+              QStringList{u"delete"_s, domainName}, QStringList{u"domains"_s}}) {
+            EXPECT_TRUE(failed(run(command), failure, u"variable HOME, or name a folder in ORVANE_DEFAULTS_FOLDER"_s));
+        }
+        EXPECT_FALSE(QFileInfo::exists(u"/.config/orvane-export-kit"_s));
+    }
+    environment.insert(u"ORVANE_DEFAULTS_FOLDER"_s, folder());
+    EXPECT_TRUE(printed(run({u"write"_s, domainName, u"a"_s, u"b"_s}), QString()));
 }
 
 TEST_F(DefaultsProgram, ResultsThatNobodyTakesAreAnError)

@@ -150,8 +150,9 @@ TEST_F(DefaultsSafety, TwoProgramsThatWriteOneDomainLoseNothingOfEachOther)
     qint64 lastSecond = 0;
     int readings = 0;
     for (; *running > 0; ++readings) {
-        const auto domain = defaults.persistentDomainForName(domainName);
-        ASSERT_TRUE(domain) << testing::PrintToString(defaults.lastError());
+        QString error;
+        const auto domain = defaults.persistentDomainForName(domainName, &error);
+        ASSERT_TRUE(domain) << testing::PrintToString(error);
         const qint64 nextFirst = domain->value(u"first"_s).toLongLong();
         const qint64 nextSecond = domain->value(u"second"_s).toLongLong();
         EXPECT_GE(nextFirst, lastFirst);

@@ -28,9 +28,10 @@ protected:
     void expectUnreadable() const
     {
         const UserDefaults defaults(folder());
-        EXPECT_EQ(defaults.persistentDomainForName(domainName), std::nullopt);
-        EXPECT_TRUE(support::contains(defaults.lastError(), u"\"%1\" cannot be read"_s.arg(path(domainName))));
-        EXPECT_TRUE(support::contains(defaults.lastError(), u"\"%1\""_s.arg(keptPath(1))));
+        QString error;
+        EXPECT_EQ(defaults.persistentDomainForName(domainName, &error), std::nullopt);
+        EXPECT_TRUE(support::contains(error, u"\"%1\" cannot be read"_s.arg(path(domainName))));
+        EXPECT_TRUE(support::contains(error, u"\"%1\""_s.arg(keptPath(1))));
     }
 
     /// A new domain is saved, and what was in its way is announced under its new name.
@@ -123,8 +124,9 @@ TEST_F(UnreadableDefaults, ALinkToItselfIsReportedAndLeftAlone)
 {
     ASSERT_TRUE(QFile::link(path(domainName), path(domainName)));
     UserDefaults defaults(folder());
-    EXPECT_EQ(defaults.persistentDomainForName(domainName), std::nullopt);
-    EXPECT_TRUE(support::contains(defaults.lastError(), path(domainName)));
+    QString error;
+    EXPECT_EQ(defaults.persistentDomainForName(domainName, &error), std::nullopt);
+    EXPECT_TRUE(support::contains(error, path(domainName)));
     EXPECT_FALSE(defaults.setPersistentDomain({{u"a"_s, 1}}, domainName));
     EXPECT_FALSE(defaults.synchronize());
     EXPECT_TRUE(QFileInfo(path(domainName)).isSymLink());
@@ -154,10 +156,11 @@ TEST_F(UnreadableDefaults, AFolderThatNobodyMayLookIntoIsReported)
         UserDefaults defaults(closedFolder);
         EXPECT_TRUE(defaults.setPersistentDomain({{u"a"_s, 1}}, domainName));
         EXPECT_TRUE(QFile::setPermissions(closedFolder, QFile::Permissions()));
-        EXPECT_EQ(defaults.persistentDomainForName(domainName), std::nullopt);
-        EXPECT_TRUE(support::contains(defaults.lastError(), closedFolder));
-        EXPECT_EQ(defaults.persistentDomainNames(), QStringList());
-        EXPECT_TRUE(support::contains(defaults.lastError(), closedFolder));
+        QString error;
+        EXPECT_EQ(defaults.persistentDomainForName(domainName, &error), std::nullopt);
+        EXPECT_TRUE(support::contains(error, closedFolder));
+        EXPECT_EQ(defaults.persistentDomainNames(&error), QStringList());
+        EXPECT_TRUE(support::contains(error, closedFolder));
         EXPECT_FALSE(defaults.setPersistentDomain({{u"a"_s, 2}}, domainName));
         EXPECT_TRUE(QFile::setPermissions(closedFolder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
         EXPECT_TRUE(defaults.synchronize());

@@ -41,14 +41,15 @@ private:
 
 QVariantMap Domain::contents() const
 {
-    auto contents = m_userDefaults.persistentDomainForName(m_name);
+    QString error;
+    auto contents = m_userDefaults.persistentDomainForName(m_name, &error);
     if (contents) {
         return *contents;
     }
-    if (m_userDefaults.lastError().isEmpty()) {
+    if (error.isEmpty()) {
         failBecauseNotSet();
     }
-    throw ProgramError(ExitCode::Failure, m_userDefaults.lastError());
+    throw ProgramError(ExitCode::Failure, error);
 }
 
 QVariant Domain::value(const QString &key) const
@@ -80,8 +81,8 @@ void Domain::replace(const QVariantMap &contents)
 
 void Domain::remove()
 {
-    const bool isReadable = m_userDefaults.persistentDomainForName(m_name).has_value();
-    if (!isReadable && m_userDefaults.lastError().isEmpty()) {
+    QString error;
+    if (!m_userDefaults.persistentDomainForName(m_name, &error) && error.isEmpty()) {
         failBecauseNotSet();
     }
     requireSaved(m_userDefaults.removePersistentDomainForName(m_name));
@@ -111,9 +112,10 @@ QByteArray line(const QString &text)
 
 void listDomains(const UserDefaults &userDefaults)
 {
-    const QStringList names = userDefaults.persistentDomainNames();
-    if (!userDefaults.lastError().isEmpty()) {
-        throw ProgramError(ExitCode::Failure, userDefaults.lastError());
+    QString error;
+    const QStringList names = userDefaults.persistentDomainNames(&error);
+    if (!error.isEmpty()) {
+        throw ProgramError(ExitCode::Failure, error);
     }
     QByteArray lines;
     for (const QString &name : names) {

@@ -25,7 +25,7 @@ QVariant keptValue(const QString &key, const QVariant &otherwise)
 
 void keepValue(const QString &key, const QVariant &value)
 {
-    UserDefaults::standardUserDefaults().setObject(value, key);
+    [[maybe_unused]] const bool isSaved = UserDefaults::standardUserDefaults().setObject(value, key);
 }
 
 QStringList recentManuscripts()
