@@ -96,7 +96,7 @@ void saveByQSettings(benchmark::State &state, const QString &folderTemplate)
     }
 }
 
-/// What the kit leaves to Qt, alone: locking, reading and replacing a file of the same size.
+/// Locking, reading and replacing a file of the same size alone, with the classes of Qt.
 void saveNothingNew(benchmark::State &state, const QString &folderTemplate)
 {
     const QTemporaryDir folder(folderTemplate);
