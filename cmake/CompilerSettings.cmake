@@ -6,6 +6,11 @@ if(ORVANE_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(ORVANE_SANITIZE_THREADS)
+    add_compile_options(-fsanitize=thread)
+    add_link_options(-fsanitize=thread)
+endif()
+
 if(ORVANE_BUILD_FUZZERS)
     if(NOT CMAKE_CXX_COMPILER_ID MATCHES Clang)
         message(FATAL_ERROR "ORVANE_BUILD_FUZZERS needs Clang")

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Builds everything and runs all tests: the whole suite, the suite under sanitizers, and Core without windows.
+# Builds everything and runs all tests: the whole suite, the suite under sanitizers, what works on any thread under the
+# thread sanitizer, and Core without windows.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -23,6 +24,10 @@ build_and_test() {
 
 build_and_test release --preset release
 build_and_test sanitize --preset sanitize
+printf '\n== thread-sanitize ==\n'
+cmake --preset thread-sanitize -DCMAKE_CXX_COMPILER_LAUNCHER=ccache
+cmake --build --preset thread-sanitize
+ctest --preset thread-sanitize -j "$(nproc)"
 build_and_test core-alone --preset release -DORVANE_BUILD_EXAMPLES=OFF \
     -DCMAKE_DISABLE_FIND_PACKAGE_Qt6Widgets=ON -DCMAKE_DISABLE_FIND_PACKAGE_Qt6UiTools=ON
 scripts/lint.sh build/release
