@@ -185,11 +185,10 @@ TEST_F(ExportSettings, AreReplacedAsAWholeBySavedOnes)
 
 TEST_F(ExportSettings, SayThatTheyWereSavedAlsoWhenWhatWasCannotBeTakenOver)
 {
-    // {"a": null}, which a binary property list can hold and a setting cannot be
+    // {"a": half a surrogate pair}, which a binary property list can hold and a setting cannot be
     support::writeFile(defaults().folder() + u'/' + domainName + u".plist"_s,
-                       QByteArray::fromHex("62706c6973743030d10102516100080b0d"
-                                           "000000000000010100000000000000030000000000000000"
-                                           "000000000000000e"));
+                       QByteArray::fromHex("62706c6973743030 d10102 5161 61d800 080b0d 0000000000000101"
+                                           "0000000000000003 0000000000000000 0000000000000010"));
     settings.setInteger(7, u"kept"_s);
     EXPECT_TRUE(settings.readSettingsFromDefaults());
     EXPECT_EQ(settings.defaultDictionary(), (QVariantMap{{u"kept"_s, 7}}));

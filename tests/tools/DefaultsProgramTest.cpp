@@ -380,7 +380,7 @@ TEST_F(DefaultsProgram, WithoutAHomeFolderWritesNothingToTheRootFolder)
               QStringList{u"delete"_s, domainName}, QStringList{u"domains"_s}}) {
             EXPECT_TRUE(failed(run(command), failure, u"variable HOME, or name a folder in ORVANE_DEFAULTS_FOLDER"_s));
         }
-        EXPECT_FALSE(QFileInfo::exists(u"/.config/orvane-export-kit"_s));
+        EXPECT_FALSE(QFileInfo::exists(u"/.config/orvane-export-kit/%1.plist"_s.arg(domainName)));
     }
     environment.insert(u"ORVANE_DEFAULTS_FOLDER"_s, folder());
     EXPECT_TRUE(printed(run({u"write"_s, domainName, u"a"_s, u"b"_s}), QString()));
