@@ -248,7 +248,8 @@ public:
     LockedFile(LockedFile &&other) noexcept : m_file(std::exchange(other.m_file, -1)) {}
     LockedFile &operator=(LockedFile &&other) noexcept
     {
-        std::swap(m_file, other.m_file);
+        unlock();
+        m_file = std::exchange(other.m_file, -1);
         return *this;
     }
     LockedFile(const LockedFile &) = delete;
@@ -293,13 +294,12 @@ TEST_F(DefaultsSafety, AWriteGoesOnWaitingWhenTheNextProgramTakesItsTurnWithAFil
     });
     for (int turn = 0; turn < 20; ++turn) {
         std::this_thread::sleep_for(10ms);
-        ASSERT_TRUE(QFile::rename(lockPath(), lockPath() + u"-before"_s));
-        LockedFile next(lockPath());
-        first.unlock();
+        const QString nextPath = lockPath() + u"-next"_s;
+        LockedFile next(nextPath);
+        EXPECT_EQ(std::rename(QFile::encodeName(nextPath).constData(), QFile::encodeName(lockPath()).constData()), 0);
+        first = std::move(next); // gives the lock on the file before back
         std::this_thread::sleep_for(10ms);
         EXPECT_FALSE(isSaved);
-        ASSERT_TRUE(QFile::remove(lockPath() + u"-before"_s));
-        first = std::move(next);
     }
     first.unlock();
     writer.join();
