@@ -253,7 +253,7 @@ void ModalLoop::remove(ModalSession *session)
     if (m_sessions.isEmpty() && QCoreApplication::instance() != nullptr) {
         QCoreApplication::instance()->removeEventFilter(this);
         if (std::exchange(m_quitsAfterwards, false)) {
-            QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(QCoreApplication::instance(), "quit", Qt::QueuedConnection);
         }
     }
 }
