@@ -49,11 +49,11 @@ struct BindingInfo {
 ///
 /// Changes are followed of settings objects (`didChangeValueForKey`) and of Qt properties with a NOTIFY signal, also
 /// when an object on the way is exchanged. What the user changes is stored when the edit ends where text is typed (line
-/// edits, text edits, token fields, combo boxes: on Return, when the focus leaves, and when something has been dropped on
-/// them, whether they have the focus or not), and at once elsewhere, by the property's NOTIFY signal; a spin box says
-/// with `keyboardTracking` which of the two it does. A property without that signal is shown only, as is one behind a
-/// transformer without a way back. Storing does not come back to the control as a change, unless somebody who was told
-/// of it stores another value at once, and an edit that ends with the text that was shown stores nothing.
+/// edits, text edits, token fields, combo boxes: on Return, when the focus leaves, and when something has been dropped
+/// on them, whether they have the focus or not), and at once elsewhere, by the property's NOTIFY signal; a spin box
+/// says with `keyboardTracking` which of the two it does. A property without that signal is shown only, as is one
+/// behind a transformer without a way back. Storing does not come back to the control as a change, unless somebody who
+/// was told of it stores another value at once, and an edit that ends with the text that was shown stores nothing.
 ///
 /// A number shown in a text field is written as the field's locale does, and typed text is read back so; text that is
 /// no number is then refused, and the field shows the stored value again. So it does where the transformer or the
