@@ -22,6 +22,7 @@
 #include <OrvaneExportKit/platform/NotificationCenter.h>
 #include <OrvaneExportKit/platform/OpenPanel.h>
 #include <OrvaneExportKit/platform/Paths.h>
+#include <OrvaneExportKit/platform/PrintableText.h>
 #include <OrvaneExportKit/platform/PropertyList.h>
 #include <OrvaneExportKit/platform/Range.h>
 #include <OrvaneExportKit/platform/ScalarValues.h>

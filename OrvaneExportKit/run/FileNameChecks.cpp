@@ -6,6 +6,8 @@
 #include <QtCore/QHash>
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 namespace platform {
 
@@ -43,6 +45,11 @@ bool namesDevice(QStringView name)
            (stem.startsWith(u"COM", Qt::CaseInsensitive) || stem.startsWith(u"LPT", Qt::CaseInsensitive));
 }
 
+QString refusalOfControl()
+{
+    return translated("The name holds a control character.");
+}
+
 /// Why some file system refuses the name, or an empty string.
 QString refusal(const QString &name)
 {
@@ -50,7 +57,7 @@ QString refusal(const QString &name)
         return translated("The name is empty.");
     }
     if (std::any_of(name.begin(), name.end(), isControl)) {
-        return translated("The name holds a control character.");
+        return refusalOfControl();
     }
     const auto reserved = std::find_if(name.begin(), name.end(), isReserved);
     if (reserved != name.end()) {
@@ -66,6 +73,18 @@ QString refusal(const QString &name)
         return translated("The name is longer than 255 bytes.");
     }
     return {};
+}
+
+/// Why the system can have no file at a path, or an empty string.
+QString impossibility(const QString &path)
+{
+    if (path.contains(QChar::Null)) {
+        return refusalOfControl();
+    }
+    std::error_code error;
+    const std::filesystem::file_type type =
+        std::filesystem::symlink_status(QFileInfo(path).filesystemFilePath(), error).type();
+    return type == std::filesystem::file_type::none ? QString::fromStdString(error.message()) : QString();
 }
 
 /// Asks `reasonFor` about every path; where it answers with a reason, the path is a finding.
@@ -100,12 +119,20 @@ QList<PathFinding> repeatedPaths(const QStringList &paths)
 QList<PathFinding> existingPaths(const QStringList &paths)
 {
     return findings(paths, [](const QString &path) {
+        if (path.contains(QChar::Null)) {
+            return refusalOfControl();
+        }
         const QFileInfo info(path);
         if (info.isDir()) {
             return translated("A folder with this name exists.");
         }
         return info.exists() || info.isSymLink() ? translated("A file with this name exists.") : QString();
     });
+}
+
+QList<PathFinding> impossiblePaths(const QStringList &paths)
+{
+    return findings(paths, impossibility);
 }
 
 QList<PathFinding> refusedNames(const QStringList &paths)

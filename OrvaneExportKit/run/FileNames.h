@@ -11,7 +11,7 @@
 namespace KZStringExportAdditions {
 
 /// The full output path of every document, in their order; from where the user wants the files, a name pattern, and
-/// the documents. Creates nothing and checks no names (`platform::refusedNames` and its neighbours do).
+/// the documents. Creates nothing and checks no names (`platform::impossiblePaths` and its neighbours do).
 ///
 /// The components, joined, are the pattern. In it, these tokens are replaced, one after the other in this order, so
 /// that text put in by one is searched for those behind it:

@@ -10,6 +10,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 using platform::existingPaths;
+using platform::impossiblePaths;
 using platform::PathFinding;
 using platform::refusedNames;
 using platform::repeatedPaths;
@@ -109,6 +110,42 @@ TEST_F(ExistingPaths, SayWhetherAFileOrAFolderIsThere)
     ASSERT_EQ(findings.size(), 2);
     EXPECT_TRUE(findings[0].reason.contains(u"file", Qt::CaseInsensitive)) << findings[0].reason.toStdString();
     EXPECT_TRUE(findings[1].reason.contains(u"folder", Qt::CaseInsensitive)) << findings[1].reason.toStdString();
+}
+
+TEST_F(ExistingPaths, HoldANullWhichSystemsTakeForTheEnd)
+{
+    const QString file = createdFile(u"a"_s);
+    const QString withNull = file + QChar(u'\0') + u'b';
+    EXPECT_EQ(found(existingPaths({withNull, path(u"c"_s)})), QStringList{u"0: "_s + withNull});
+}
+
+class ImpossiblePaths : public ExistingPaths
+{
+};
+
+TEST_F(ImpossiblePaths, HoldANull)
+{
+    const QString withNull = path(u"a"_s) + QChar(u'\0') + u'b';
+    EXPECT_EQ(found(impossiblePaths({path(u"a"_s), withNull})), QStringList{u"1: "_s + withNull});
+}
+
+TEST_F(ImpossiblePaths, AreLongerThanTheSystemTakes)
+{
+    const QString longest = path(QString(255, u'x'));
+    const QString tooLong = path(QString(256, u'x'));
+    const QString tooLongInUtf8 = path(QString(128, u'\u00E9'));
+    EXPECT_EQ(found(impossiblePaths({longest, tooLong, path(QString(127, u'\u00E9')), tooLongInUtf8})),
+              QStringList({u"1: "_s + tooLong, u"3: "_s + tooLongInUtf8}));
+    EXPECT_EQ(impossiblePaths({tooLong}).constFirst().reason, u"File name too long"_s);
+    const QString tooDeep = path(QString(u"folder/"_s).repeated(600) + u'x');
+    EXPECT_EQ(found(impossiblePaths({tooDeep})), QStringList{u"0: "_s + tooDeep});
+}
+
+TEST_F(ImpossiblePaths, AreNoneAmongThoseThatCanBeMade)
+{
+    EXPECT_EQ(found(impossiblePaths({createdFile(u"a"_s), path(u"missing/b"_s), path(u"a/b"_s), path(u"A:B?"_s)})),
+              QStringList());
+    EXPECT_EQ(found(impossiblePaths({})), QStringList());
 }
 
 TEST(RefusedNames, AreListedWithTheirPlaceAndPath)
