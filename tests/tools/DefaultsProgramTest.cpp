@@ -1,5 +1,6 @@
 #include <OrvaneExportKit/platform/UserDefaults.h>
 #include <OrvaneExportKit/version.h>
+#include <tests/end_to_end/PseudoTerminal.h>
 #include <tests/support/DefaultsFolder.h>
 #include <tests/support/Faults.h>
 #include <tests/support/Files.h>
@@ -686,6 +687,37 @@ TEST_F(DefaultsProgram, ExportReplacesNoDevice)
     struct stat status = {};
     EXPECT_EQ(stat(QFile::encodeName(pipe).constData(), &status), 0);
     EXPECT_TRUE(S_ISFIFO(status.st_mode));
+}
+
+TEST_F(DefaultsProgram, ListsDomainsForProgramsWithNulls)
+{
+    set({{u"a"_s, 1}}, u"com.example.one"_s);
+    set({{u"a"_s, 1}}, u"com.example.two"_s);
+    EXPECT_TRUE(printed(run({u"domains"_s}), u"com.example.one\ncom.example.two\n"_s));
+    const QString withNulls = u"com.example.one\ncom.example.two\n"_s.replace(u'\n', QChar(u'\0'));
+    EXPECT_TRUE(printed(run({u"domains"_s, u"--null"_s}), withNulls));
+    EXPECT_TRUE(printed(run({u"domains"_s, u"-0"_s}), withNulls));
+    EXPECT_TRUE(failed(run({u"read"_s, domainName, u"-0"_s}), wrongCommandLine, u"takes no --null"_s));
+}
+
+TEST_F(DefaultsProgram, ShowsControlCharactersAsEscapesAtATerminalAlone)
+{
+    const QString value = u"red \x1b[31m\u009b\u202e\u2028\nnext\tline"_s;
+    set({{u"text"_s, value}});
+    support::writeFile(path(u"a\u202eb"_s), "{}");
+    EXPECT_TRUE(printed(run({u"read"_s, domainName, u"text"_s}), value + u'\n'));
+
+    qputenv("ORVANE_DEFAULTS_FOLDER", QFile::encodeName(folder()));
+    const auto shown = [](const QStringList &arguments) {
+        end_to_end::PseudoTerminal terminal(QStringLiteral(DEFAULTS_PROGRAM), arguments);
+        terminal.finish();
+        return QString::fromUtf8(terminal.shown()).remove(u'\r');
+    };
+    EXPECT_EQ(shown({u"read"_s, domainName, u"text"_s}), u"red \\x1b[31m\\x9b\\u202e\\u2028\nnext\tline\n"_s);
+    EXPECT_EQ(shown({u"domains"_s}), u"a\\u202eb\n%1\n"_s.arg(domainName));
+    EXPECT_TRUE(shown({u"read"_s, u"b\u202e"_s}).contains(u"'b\\u202e'"_s));
+    EXPECT_TRUE(shown({u"read"_s, domainName, u"b\x1b\n"_s}).contains(u"'b\\x1b\\x0a'"_s));
+    qunsetenv("ORVANE_DEFAULTS_FOLDER");
 }
 
 } // namespace

@@ -54,6 +54,11 @@ Files:
   as DOMAIN.plist.unreadable-1 (or a higher number) when its domain is changed:
   repair it there and import it.
 
+Output:
+  A terminal shows control characters in names and values as \x1b, \u202e.
+  Elsewhere they stay; the output of domains --null is safe to read for
+  programs, as by xargs -0.
+
 Environment:
   ORVANE_DEFAULTS_FOLDER  the folder to use in place of that one
 
@@ -106,6 +111,7 @@ CommandLine::CommandLine(const QStringList &arguments)
     m_parser.addPositionalArgument(u"VALUE"_s, u"The new value."_s, u"[VALUE]"_s);
     m_parser.addOptions({
         {{u"g"_s, u"global"_s}, u"Takes the global domain, whose values all applications see, in place of DOMAIN."_s},
+        {{u"0"_s, u"null"_s}, u"Ends each name in the list of domains by a null character, not by a line feed."_s},
         {u"type"_s, u"What VALUE is, one of the types below."_s, u"TYPE"_s, u"string"_s},
         {{u"h"_s, u"help"_s}, u"Shows this help."_s},
         {{u"v"_s, u"version"_s}, u"Shows the version."_s},
@@ -160,7 +166,11 @@ Request CommandLine::request() const
     if (m_parser.isSet(u"type"_s) && form.command != Command::Write) {
         throw usageError(u"'%1' takes no --type"_s.arg(form.name));
     }
-    return {form.command, domain, words, valueType(m_parser.value(u"type"_s))};
+    if (m_parser.isSet(u"null"_s) && form.command != Command::Domains) {
+        throw usageError(u"'%1' takes no --null"_s.arg(form.name));
+    }
+    return {form.command, domain, words, valueType(m_parser.value(u"type"_s)),
+            m_parser.isSet(u"null"_s) ? ListSeparator::Null : ListSeparator::LineFeed};
 }
 
 } // namespace defaults

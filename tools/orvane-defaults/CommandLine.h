@@ -1,5 +1,6 @@
 #pragma once
 
+#include "InputOutput.h"
 #include "Values.h"
 
 #include <QtCore/QCommandLineParser>
@@ -23,6 +24,7 @@ struct Request {
     QString domain;       ///< empty for a command that takes none
     QStringList operands; ///< what follows the domain, as many as the command takes
     ValueType type;
+    ListSeparator separator; ///< of the list of domains
 };
 
 /// The arguments of the program. Throws a `ProgramError` when they are wrong.

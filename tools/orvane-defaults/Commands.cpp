@@ -110,18 +110,14 @@ QByteArray line(const QString &text)
     return text.toUtf8() + '\n';
 }
 
-void listDomains(const UserDefaults &userDefaults)
+void listDomains(const UserDefaults &userDefaults, ListSeparator separator)
 {
     QString error;
     const QStringList names = userDefaults.persistentDomainNames(&error);
     if (!error.isEmpty()) {
         throw ProgramError(ExitCode::Failure, error);
     }
-    QByteArray lines;
-    for (const QString &name : names) {
-        lines += line(name);
-    }
-    printResult(lines);
+    printList(names, separator);
 }
 
 QVariantMap importedDomain(const QString &file)
@@ -148,7 +144,7 @@ void runCommand(const Request &request, UserDefaults &userDefaults)
     Domain domain(userDefaults, request.domain);
     switch (request.command) {
     case Command::Domains:
-        listDomains(userDefaults);
+        listDomains(userDefaults, request.separator);
         break;
     case Command::Read:
         printResult(

@@ -3,14 +3,51 @@
 #include "ProgramError.h"
 
 #include <OrvaneExportKit/platform/FileReplacement.h>
+#include <OrvaneExportKit/platform/PrintableText.h>
 
 #include <QtCore/QFile>
 
 #include <cstdio>
 
+#include <unistd.h>
+
 using namespace Qt::Literals::StringLiterals;
+using platform::printableText;
 
 namespace defaults {
+
+namespace {
+
+bool isTerminal(std::FILE *stream)
+{
+    return isatty(fileno(stream)) == 1;
+}
+
+/// Text of several lines, which may be indented by tabs, as a terminal shows it.
+QByteArray printableLines(const QByteArray &text)
+{
+    QByteArray shown;
+    for (const QByteArray &line : text.split('\n')) {
+        QStringList cells = QString::fromUtf8(line).split(u'\t');
+        for (QString &cell : cells) {
+            cell = printableText(cell);
+        }
+        shown += cells.join(u'\t').toUtf8() + '\n';
+    }
+    shown.chop(1);
+    return shown;
+}
+
+void writeResult(const QByteArray &text)
+{
+    QFile output;
+    if (!output.open(stdout, QIODevice::WriteOnly) || output.write(text) != text.size() || !output.flush()) {
+        throw ProgramError(ExitCode::Failure, u"Standard output takes no more text: %1; free it and run again."_s.arg(
+                                                  output.errorString()));
+    }
+}
+
+} // namespace
 
 QByteArray readFile(const QString &name)
 {
@@ -45,18 +82,26 @@ void writeFile(const QString &name, const QByteArray &data)
     throw ProgramError(ExitCode::Failure, problem.arg(name, failure.reason));
 }
 
+void printList(const QStringList &items, ListSeparator separator)
+{
+    const bool areShown = separator == ListSeparator::LineFeed && isTerminal(stdout);
+    QByteArray list;
+    for (const QString &item : items) {
+        list += (areShown ? printableText(item) : item).toUtf8();
+        list += separator == ListSeparator::Null ? '\0' : '\n';
+    }
+    writeResult(list);
+}
+
 void printResult(const QByteArray &text)
 {
-    QFile output;
-    if (!output.open(stdout, QIODevice::WriteOnly) || output.write(text) != text.size() || !output.flush()) {
-        throw ProgramError(ExitCode::Failure, u"Standard output takes no more text: %1; free it and run again."_s.arg(
-                                                  output.errorString()));
-    }
+    writeResult(isTerminal(stdout) ? printableLines(text) : text);
 }
 
 void printMessage(const QString &message)
 {
-    const QByteArray line = (u"orvane-defaults: "_s + message + u'\n').toLocal8Bit();
+    const QString shown = isTerminal(stderr) ? printableText(message) : message;
+    const QByteArray line = (u"orvane-defaults: "_s + shown + u'\n').toLocal8Bit();
     std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
 }
 
