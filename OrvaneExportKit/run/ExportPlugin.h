@@ -76,11 +76,13 @@ public:
     /// then reports the document and what the exception says.
     virtual QByteArray exportedData(const ExportDocument &document, const platform::AttributedString &text) const = 0;
 
-    /// The names of the files that the plug-in adds to those of the documents, in the same folder: "index.html". A host
-    /// asks before the export begins, and treats these files as it does the documents'. None unless overridden.
+    /// The names of the files that the plug-in adds to those of the documents: "index.html" in the same folder,
+    /// "fonts/serif.ttf" in a folder inside it, which the host makes. A host asks before the export begins, and treats
+    /// these files as it does the documents'; it refuses a name that is empty, absolute or leads elsewhere by "..", a
+    /// backslash or a link. None unless overridden.
     virtual QStringList additionalFileNames() const;
 
-    /// The content of one of the additional files. `title` is that of the manuscript, `files` are those that its
+    /// The content of one of the additional files, by its name as `additionalFileNames` gives it. `title` is that of the manuscript, `files` are those that its
     /// documents became, in their order. May throw as `exportedData` may. Empty unless overridden.
     virtual QByteArray additionalFileData(const QString &fileName, const QString &title,
                                           const QList<ExportedFile> &files) const;

@@ -49,7 +49,9 @@ Output:
   Standard output lists the files, one a line, as they are written. Standard
   error takes progress (at a terminal), warnings and errors, each of which says
   what went wrong and what to do. A file is there as a whole or not at all, also
-  where a plug-in ends the program. Ctrl-C stops after the current document, a
+  where a plug-in ends the program. A terminal shows control characters in
+  names as \x1b, \u202e; elsewhere they stay in the list, which --null makes
+  safe to read for programs, as in xargs -0. Ctrl-C stops after the current document, a
   second Ctrl-C at once.
 
 Exit codes:
@@ -99,6 +101,7 @@ CommandLine::CommandLine(const QStringList &arguments)
         {u"settings"_s, u"Takes the choices from a property list in place of the saved ones."_s, u"FILE"_s},
         {u"save-settings"_s, u"Keeps the choices of this run for the next ones."_s},
         {u"yes"_s, u"Replaces files that exist without asking."_s},
+        {{u"0"_s, u"null"_s}, u"Ends each path in the list of files by a null character, not by a line feed."_s},
         {u"list-plugins"_s, u"Lists the plug-ins with their choices, and exports nothing."_s},
         {u"plugin-folder"_s, u"The folder in which the plug-ins are."_s, u"FOLDER"_s},
         {{u"h"_s, u"help"_s}, u"Shows this help."_s},
@@ -151,6 +154,7 @@ ExportRequest CommandLine::exportRequest() const
         request.settingsFile = requiredValue(u"settings"_s, u"a property list"_s);
     }
     request.saveSettings = m_parser.isSet(u"save-settings"_s);
+    request.separator = m_parser.isSet(u"null"_s) ? ListSeparator::Null : ListSeparator::LineFeed;
     return request;
 }
 

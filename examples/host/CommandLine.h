@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OutputPaths.h"
+#include "Terminal.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QList>
@@ -24,8 +25,9 @@ struct ExportRequest {
     OutputNames names;
     bool replaceFiles = false; ///< the user has agreed beforehand to replace files that exist
     QList<Setting> settings;
-    std::optional<QString> settingsFile; ///< takes the place of the saved settings
-    bool saveSettings = false;           ///< keeps the settings of this run
+    std::optional<QString> settingsFile;               ///< takes the place of the saved settings
+    bool saveSettings = false;                         ///< keeps the settings of this run
+    ListSeparator separator = ListSeparator::LineFeed; ///< of the list of files
 };
 
 /// The window that the user wants.

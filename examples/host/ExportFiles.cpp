@@ -36,7 +36,7 @@ ExportFiles::ExportFiles(const Manuscript &manuscript, const ExportPlugin &plugi
 QString ExportFiles::nextName() const
 {
     const ManuscriptDocument *document = nextDocument();
-    return document != nullptr ? document->name() : platform::lastPathComponent(nextPath());
+    return document != nullptr ? document->name() : m_paths.additionalNames[m_madeCount - documentCount()];
 }
 
 QString ExportFiles::nextDescription() const

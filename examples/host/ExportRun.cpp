@@ -79,7 +79,10 @@ private:
 class WrittenFiles
 {
 public:
-    WrittenFiles(const ExportFiles &files, const ProgressLine &progress) : m_files(files), m_progress(progress) {}
+    WrittenFiles(const ExportFiles &files, ListSeparator separator, const ProgressLine &progress)
+        : m_files(files), m_separator(separator), m_progress(progress)
+    {
+    }
     WrittenFiles(const WrittenFiles &) = delete;
     WrittenFiles &operator=(const WrittenFiles &) = delete;
     ~WrittenFiles() { listNew(); } // where the export ends with an error, too
@@ -92,21 +95,22 @@ public:
         }
         m_progress.show({});
         for (; m_listed < written.size(); ++m_listed) {
-            printResult(written[m_listed] + u'\n');
+            printItem(written[m_listed], m_separator);
         }
     }
 
 private:
     const ExportFiles &m_files;
+    ListSeparator m_separator;
     const ProgressLine &m_progress;
     qsizetype m_listed = 0;
 };
 
-void writeFiles(ExportFiles &files)
+void writeFiles(ExportFiles &files, ListSeparator separator)
 {
     const InterruptionWatch interruptions;
     const ProgressLine progress;
-    WrittenFiles written(files, progress);
+    WrittenFiles written(files, separator, progress);
     while (!files.allMade()) {
         if (interruptions.wasInterrupted()) {
             files.finish();
@@ -126,15 +130,16 @@ void runExport(const ExportRequest &request, const PluginFolder &plugins)
     prepareSettings(plugin, request);
     const Manuscript manuscript = readManuscript(request.manuscriptFolder);
     const OutputPaths paths = outputPaths(request.names, manuscript, plugin);
-    checkOutputPaths(request.names, paths, manuscript);
     warnAboutRefusedNames(paths.all());
+    checkOutputPaths(request.names, paths, manuscript);
     if (!request.replaceFiles) {
         confirmReplacing(paths.all());
     }
+    makeFolders(paths);
     const QString folder = destinationFolder(request.names);
     ExportFiles files(manuscript, plugin, paths);
     const ExportReport report(files, manuscript.title, folder);
-    writeFiles(files);
+    writeFiles(files, request.separator);
 }
 
 } // namespace host

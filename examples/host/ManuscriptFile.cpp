@@ -3,6 +3,7 @@
 #include "Messages.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -15,6 +16,10 @@ HostError manuscriptError(const QString &message)
 
 QByteArray fileContent(const QString &path)
 {
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile()) { // opening a pipe would wait for one who writes into it
+        throw manuscriptError(Texts::tr("%1 is a folder, a pipe or a device; put a file there").arg(quoted(path)));
+    }
     QFile file(path);
     QByteArray content;
     if (file.open(QIODevice::ReadOnly)) {

@@ -77,7 +77,8 @@ QList<JsonPart> documentParts(const JsonPart &root)
 ManuscriptDocument::Entry entryOf(const JsonPart &document, const QString &folder)
 {
     const QString file = requiredString(document, u"file"_s);
-    if (file.isEmpty() || QDir::isAbsolutePath(file) || file.split(u'/').contains(".."_L1)) {
+    if (file.isEmpty() || QDir::isAbsolutePath(file) || file.split(u'/').contains(".."_L1) ||
+        file.contains(QChar::Null)) {
         throw manuscriptError(Texts::tr("%1 names the file %2; give a path inside the manuscript's folder")
                                   .arg(document.description, quoted(file)));
     }

@@ -1,5 +1,7 @@
 #include "Messages.h"
 
+#include <OrvaneExportKit/platform/PrintableText.h>
+
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
@@ -20,11 +22,7 @@ QString sentence(const QString &message)
 
 QString printable(const QString &text)
 {
-    QString shown = text;
-    std::replace_if(
-        shown.begin(), shown.end(), [](QChar character) { return character.category() == QChar::Other_Control; },
-        QChar(QChar::ReplacementCharacter));
-    return shown;
+    return platform::printableText(text);
 }
 
 QString quoted(const QString &text)

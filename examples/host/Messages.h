@@ -17,7 +17,7 @@ struct Texts {
 /// A message as a sentence by itself: "The folder does not exist." of "the folder does not exist".
 QString sentence(const QString &message);
 
-/// A text on one line that a terminal shows as it is: control characters give way to U+FFFD.
+/// A text on one line that a terminal shows as it is: control characters become escapes such as \x1b.
 QString printable(const QString &text);
 
 /// A name or path from outside, printable and in quotation marks: 'Tide/Ebb'.

@@ -8,8 +8,13 @@
 #include <OrvaneExportKit/run/FileNameChecks.h>
 #include <OrvaneExportKit/run/FileNames.h>
 
+#include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSet>
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -55,10 +60,8 @@ QStringList pathsByPattern(const OutputNames &names, const Manuscript &manuscrip
                                                             names.convertSpaces, extension);
 }
 
-QStringList additionalPaths(const QString &folder, const ExportPlugin &plugin)
+QStringList additionalPaths(const QString &folder, const QStringList &names)
 {
-    const QStringList names =
-        answerOf(plugin, Texts::tr("the names of its files"), [&] { return plugin.additionalFileNames(); });
     QStringList paths;
     for (const QString &name : names) {
         paths.append(platform::appendingPathComponent(folder, name));
@@ -73,6 +76,89 @@ QString originOfFile(qsizetype index, const Manuscript &manuscript)
     return document < manuscript.documents.size()
                ? Texts::tr("document %1, %2").arg(index + 1).arg(quoted(manuscript.documents[document].name()))
                : Texts::tr("the plug-in's own file");
+}
+
+void refuseImpossiblePaths(const QStringList &paths, const Manuscript &manuscript)
+{
+    QStringList lines;
+    for (const platform::PathFinding &impossible : platform::impossiblePaths(paths)) {
+        lines.append(u"%1: %2: %3"_s.arg(originOfFile(impossible.index, manuscript), quoted(impossible.path),
+                                         impossible.reason));
+    }
+    if (!lines.isEmpty()) {
+        throw outputError(Texts::tr("this system can't have these files; change their names or the pattern:") +
+                          listed(lines));
+    }
+}
+
+/// Whether a path that a plug-in gives is one downwards from the destination: "fonts/f.ttf".
+bool leadsDown(const QString &name)
+{
+    const QStringList components = name.split(u'/');
+    const auto leadsElsewhere = [](const QString &component) {
+        return component.isEmpty() || component == u"." || component == u"..";
+    };
+    return std::none_of(components.begin(), components.end(), leadsElsewhere) && QDir::isRelativePath(name) &&
+           !name.contains(u'\\') && !name.contains(QChar::Null);
+}
+
+/// The folders below the destination that a file of the plug-in goes into: "/out/a", "/out/a/b" for "a/b/c.txt".
+QStringList foldersOf(const QString &path, const QString &name)
+{
+    QStringList folders;
+    QString folder = platform::deletingLastPathComponent(path);
+    for (qsizetype depth = name.count(u'/'); depth > 0; --depth) {
+        folders.prepend(folder);
+        folder = platform::deletingLastPathComponent(folder);
+    }
+    return folders;
+}
+
+/// Links are not followed for the plug-in's own files, wherever they lead.
+bool leadsThroughLink(const QString &path, const QString &name)
+{
+    const QStringList stations = foldersOf(path, name) + QStringList{path};
+    return std::any_of(stations.begin(), stations.end(),
+                       [](const QString &station) { return QFileInfo(station).isSymLink(); });
+}
+
+void refuseStrayFiles(const OutputPaths &paths)
+{
+    QStringList lines;
+    for (qsizetype index = 0; index < paths.additional.size(); ++index) {
+        const QString &name = paths.additionalNames[index];
+        if (!leadsDown(name) || leadsThroughLink(paths.additional[index], name)) {
+            lines.append(quoted(name));
+        }
+    }
+    if (!lines.isEmpty()) {
+        throw HostError(ExitCode::Plugin,
+                        Texts::tr("files of the plug-in's own would not stay inside the destination folder; choose a "
+                                  "folder without links, or another plug-in:") +
+                            listed(lines));
+    }
+}
+
+/// The folders inside the destination, each of which must be there or be possible to make.
+void refuseFoldersInTheWay(const OutputPaths &paths)
+{
+    const QStringList all = paths.all();
+    const QSet<QString> files(all.begin(), all.end());
+    QStringList lines;
+    for (qsizetype index = 0; index < paths.additional.size(); ++index) {
+        for (const QString &folder : foldersOf(paths.additional[index], paths.additionalNames[index])) {
+            const QFileInfo info(folder);
+            if (files.contains(folder) || (info.exists() && !(info.isDir() && info.isWritable()))) {
+                lines.append(quoted(folder));
+            }
+        }
+    }
+    lines.removeDuplicates();
+    if (!lines.isEmpty()) {
+        throw outputError(Texts::tr("files stand, or would stand, where the plug-in needs folders that it may write "
+                                    "into; choose another destination or pattern:") +
+                          listed(lines));
+    }
 }
 
 void refuseRepeatedPaths(const QStringList &paths, const Manuscript &manuscript)
@@ -128,19 +214,38 @@ QString destinationFolder(const OutputNames &names)
 
 OutputPaths outputPaths(const OutputNames &names, const Manuscript &manuscript, const ExportPlugin &plugin)
 {
+    const QStringList additionalNames =
+        answerOf(plugin, Texts::tr("the names of its files"), [&] { return plugin.additionalFileNames(); });
     return {
         pathsByPattern(names, manuscript, names.extension.value_or(plugin.pathExtension())),
-        additionalPaths(destinationFolder(names), plugin),
+        additionalPaths(destinationFolder(names), additionalNames),
+        additionalNames,
     };
 }
 
 void checkOutputPaths(const OutputNames &names, const OutputPaths &paths, const Manuscript &manuscript)
 {
     requireWritableFolder(names);
+    refuseStrayFiles(paths);
+    refuseImpossiblePaths(paths.all(), manuscript);
     refuseRepeatedPaths(paths.all(), manuscript);
+    refuseFoldersInTheWay(paths);
     const QList<platform::PathFinding> existing = platform::existingPaths(paths.all());
     refuseFolders(existing);
     refuseOwnFiles(existing, manuscript);
+}
+
+void makeFolders(const OutputPaths &paths)
+{
+    for (const QString &path : paths.additional) {
+        const QString folder = platform::deletingLastPathComponent(path);
+        std::error_code error;
+        std::filesystem::create_directories(QFileInfo(folder).filesystemFilePath(), error);
+        if (error) {
+            throw outputError(Texts::tr("the folder %1 can't be made: %2; see to that and try again")
+                                  .arg(quoted(folder), QString::fromStdString(error.message())));
+        }
+    }
 }
 
 } // namespace host

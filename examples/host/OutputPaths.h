@@ -24,8 +24,9 @@ QString destinationFolder(const OutputNames &names);
 
 /// The paths of the files that an export writes.
 struct OutputPaths {
-    QStringList documents;  ///< of the file that each document becomes, in their order
-    QStringList additional; ///< of those that the plug-in adds
+    QStringList documents;            ///< of the file that each document becomes, in their order
+    QStringList additional;           ///< of those that the plug-in adds
+    QStringList additionalNames = {}; ///< the same as the plug-in gives them, from the destination folder on
 
     QStringList all() const { return documents + additional; }
 };
@@ -33,8 +34,13 @@ struct OutputPaths {
 /// The paths of an export. Nothing is checked but what the destination is.
 OutputPaths outputPaths(const OutputNames &names, const Manuscript &manuscript, const ExportPlugin &plugin);
 
-/// Throws `HostError` when the files can't or must not be written: into a folder that is not there, several under one
-/// name, in the place of folders or of the manuscript itself.
+/// Throws `HostError` when the files can't or must not be written: into a folder that is not there, under names that
+/// the system does not take, several under one name, in the place of folders or of the manuscript itself; and when the
+/// plug-in's own ones would not stay inside the destination.
 void checkOutputPaths(const OutputNames &names, const OutputPaths &paths, const Manuscript &manuscript);
+
+/// Makes the folders inside the destination that the plug-in's own files go into. Throws `HostError` when one can't be
+/// made.
+void makeFolders(const OutputPaths &paths);
 
 } // namespace host

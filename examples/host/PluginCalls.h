@@ -20,7 +20,7 @@ auto answerOf(const ExportPlugin &plugin, const QString &part, const Call &call)
         return HostError(ExitCode::Plugin,
                          Texts::tr("the plug-in %1 failed on %2: %3; change the document or the plug-in's choices, and "
                                    "export again")
-                             .arg(plugin.name(), part, reason));
+                             .arg(printable(plugin.name()), part, reason));
     };
     try {
         return call();

@@ -35,13 +35,14 @@ private:
 void importSettings(KZExportSettings &settings, const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    if (file.error() != QFileDevice::NoError) {
         throw HostError(ExitCode::Manuscript,
                         u"the settings file %1 can't be read: %2; see to that and export again"_s.arg(
                             quoted(path), file.errorString()));
     }
     const AlertedErrors alerted;
-    settings.setDefaultData(file.readAll());
+    settings.setDefaultData(content);
     if (!alerted.errors().isEmpty()) {
         throw HostError(ExitCode::Manuscript,
                         u"the settings file %1 can't be used: %2; mend it or name another one"_s.arg(
@@ -84,8 +85,9 @@ void makeSettings(ExportPlugin &plugin, const QList<ExportRequest::Setting> &set
     const QStringList keys = keysOf(plugin);
     for (const ExportRequest::Setting &setting : settings) {
         if (!keys.contains(setting.key)) {
-            throw HostError(ExitCode::Usage, u"the plug-in %1 has no choice %2; it has: %3"_s.arg(
-                                                 plugin.name(), quoted(setting.key), keys.join(", "_L1)));
+            throw HostError(ExitCode::Usage,
+                            u"the plug-in %1 has no choice %2; it has: %3"_s.arg(
+                                printable(plugin.name()), quoted(setting.key), printable(keys.join(", "_L1))));
         }
         makeSetting(plugin, setting.key, setting.value, u"--set "_s + setting.key);
     }
@@ -103,7 +105,7 @@ void prepareSettings(ExportPlugin &plugin, const ExportRequest &request)
         if (!problem.isEmpty()) {
             printWarning(problem);
         }
-        checkStoredChoices(plugin, u"the saved settings of the plug-in %1"_s.arg(plugin.name()));
+        checkStoredChoices(plugin, u"the saved settings of the plug-in %1"_s.arg(printable(plugin.name())));
     }
     makeSettings(plugin, request.settings);
     if (request.saveSettings) {

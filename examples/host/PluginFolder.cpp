@@ -59,7 +59,7 @@ std::unique_ptr<ExportPlugin> loadedPlugin(const QString &path)
     QPluginLoader loader(path);
     const QString identifier = loader.metaData().value("IID"_L1).toString();
     if (identifier.isEmpty()) {
-        throw pluginError(Texts::tr("it is no Qt plug-in: %1").arg(loader.errorString()));
+        throw pluginError(Texts::tr("it is no Qt plug-in: %1").arg(printable(loader.errorString())));
     }
     requireOwnInterface(identifier);
     // A symbol that is missing shows now, and not when the plug-in is in the middle of its work.
@@ -134,7 +134,7 @@ ExportPlugin &PluginFolder::pluginNamed(const QString &name) const
 {
     ExportPlugin *plugin = findPlugin(name);
     if (plugin == nullptr) {
-        const QString names = m_plugins.empty() ? Texts::tr("none") : namesOf(m_plugins).join(", "_L1);
+        const QString names = m_plugins.empty() ? Texts::tr("none") : printable(namesOf(m_plugins).join(", "_L1));
         throw pluginError(Texts::tr("there is no plug-in %1 in the folder %2; it holds: %3")
                               .arg(quoted(name), quoted(m_path), names) +
                           listed(m_problems));

@@ -1,8 +1,10 @@
 #include "Terminal.h"
 
 #include "HostError.h"
+#include "Messages.h"
 
 #include <QtCore/QList>
+#include <QtCore/QStringList>
 
 #include <algorithm>
 #include <cerrno>
@@ -29,6 +31,33 @@ void write(std::FILE *stream, const QString &text)
 {
     const QByteArray bytes = text.toLocal8Bit();
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+}
+
+void writeResult(const QString &text)
+{
+    errno = 0;
+    write(stdout, text);
+    if ((std::fflush(stdout) != 0 || std::ferror(stdout) != 0) && outputError == 0) {
+        outputError = errno == 0 ? EIO : errno;
+    }
+}
+
+bool isTerminal(std::FILE *stream)
+{
+    return isatty(fileno(stream)) == 1;
+}
+
+/// Lines of text as a stream shows them.
+QString shownOn(std::FILE *stream, const QString &text)
+{
+    if (!isTerminal(stream)) {
+        return text;
+    }
+    QStringList lines = text.split(u'\n');
+    for (QString &line : lines) {
+        line = printable(line);
+    }
+    return lines.join(u'\n');
 }
 
 int terminalWidth()
@@ -63,10 +92,15 @@ QString fitted(const QString &text, int columns)
 
 void printResult(const QString &text)
 {
-    errno = 0;
-    write(stdout, text);
-    if ((std::fflush(stdout) != 0 || std::ferror(stdout) != 0) && outputError == 0) {
-        outputError = errno == 0 ? EIO : errno;
+    writeResult(shownOn(stdout, text));
+}
+
+void printItem(const QString &item, ListSeparator separator)
+{
+    if (separator == ListSeparator::Null) {
+        writeResult(item + QChar(QChar::Null));
+    } else {
+        writeResult((isTerminal(stdout) ? printable(item) : item) + u'\n');
     }
 }
 
@@ -80,7 +114,7 @@ void requireAllPrinted()
 
 void printMessage(const QString &line)
 {
-    write(stderr, line + u'\n');
+    write(stderr, shownOn(stderr, line) + u'\n');
 }
 
 void printWarning(const QString &message)
@@ -95,7 +129,7 @@ void printError(const QString &message)
 
 bool canAsk()
 {
-    return isatty(STDIN_FILENO) == 1 && isatty(STDERR_FILENO) == 1;
+    return isTerminal(stdin) && isTerminal(stderr);
 }
 
 bool confirm(const QString &question)
@@ -109,7 +143,7 @@ bool confirm(const QString &question)
     return word == u"y" || word == u"yes";
 }
 
-ProgressLine::ProgressLine() : m_isVisible(isatty(STDERR_FILENO) == 1)
+ProgressLine::ProgressLine() : m_isVisible(isTerminal(stderr))
 {
 }
 

@@ -3,13 +3,21 @@
 #include <QtCore/QString>
 
 /// \file
-/// Everything that the program asks of the terminal. Results go to standard output;
+/// Everything that the program asks of the terminal. Control characters reach none: they are escaped, line feeds in
+/// results and messages excepted. Results go to standard output;
 /// messages, questions and progress go to standard error.
 
 namespace host {
 
 /// Writes text to standard output, at once, for what a program has done must be known however it ends.
 void printResult(const QString &text);
+
+/// What ends an item of a list.
+enum class ListSeparator { LineFeed, Null };
+
+/// Writes an item of a list to standard output, at once. A terminal shows it on one line, with control characters
+/// escaped; elsewhere, and where nulls separate, the item stays as it is.
+void printItem(const QString &item, ListSeparator separator);
 
 /// Throws `HostError` when results could not be written.
 void requireAllPrinted();

@@ -4,6 +4,8 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 
+#include <sys/stat.h>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace end_to_end {
@@ -42,6 +44,24 @@ TEST_F(ManuscriptFolder, IsAFile)
     EXPECT_TRUE(isRefused({u"'%1' is no folder"_s.arg(manuscript())}));
 }
 
+TEST_F(ManuscriptFolder, PipeOrDeviceInPlaceOfAFileIsRefusedAtOnce)
+{
+    for (const QString &file : {manuscript() + u"/2.txt"_s, manuscript() + u"/manuscript.json"_s}) {
+        EXPECT_TRUE(QFile::remove(file));
+        EXPECT_EQ(mkfifo(QFile::encodeName(file).constData(), 0600), 0);
+        EXPECT_TRUE(isRefused({u"'%1' is a folder, a pipe or a device; "_s.arg(file)}));
+        EXPECT_TRUE(QFile::remove(file));
+        EXPECT_TRUE(QFile::link(u"/dev/zero"_s, file));
+        EXPECT_TRUE(isRefused({u"'%1' is a folder, a pipe or a device; "_s.arg(file)}));
+    }
+}
+
+TEST_F(ManuscriptFolder, NamesAFileWithANull)
+{
+    EXPECT_TRUE(manifestIsRefused(R"({"title": "", "documents": [{"file": "1.txt\u0000", "name": ""}]})",
+                                  {u"document 1"_s, u"names the file '1.txt\\x00'; give a path inside"_s}));
+}
+
 TEST_F(ManuscriptFolder, WithoutManuscriptJson)
 {
     EXPECT_TRUE(QFile::remove(manuscript() + u"/manuscript.json"_s));
@@ -52,7 +72,7 @@ TEST_F(ManuscriptFolder, ManuscriptJsonIsAFolder)
 {
     EXPECT_TRUE(QFile::remove(manuscript() + u"/manuscript.json"_s));
     EXPECT_TRUE(QDir(manuscript()).mkdir(u"manuscript.json"_s));
-    EXPECT_TRUE(isRefused({u"'%1/manuscript.json' can't be read"_s.arg(manuscript())}));
+    EXPECT_TRUE(isRefused({u"'%1/manuscript.json' is a folder, a pipe or a device; "_s.arg(manuscript())}));
 }
 
 TEST_F(ManuscriptFolder, BrokenJsonIsShownByLineAndColumn)

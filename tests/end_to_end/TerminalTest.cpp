@@ -102,9 +102,26 @@ TEST_F(Terminal, ProgressIsCutToTheWidth)
     writeManuscript({{u"A long and winding name"_s, "1"}, {u"長い名前の文書"_s, "2"}, {u"Bell\a"_s, "3"}});
     PseudoTerminal terminal(hostProgram, exportArguments(), 12);
     EXPECT_EQ(terminal.finish(), 0);
-    for (const char *progress : {"\r1/3 A long \r", "\r2/3 長い名 \r", "\r3/3 Bell\uFFFD  \r"}) {
+    for (const char *progress : {"\r1/3 A long \r", "\r2/3 長い名 \r", "\r3/3 Bell\\x0\r"}) {
         EXPECT_TRUE(terminal.shown().contains(progress)) << progress << " in " << terminal.shown().constData();
     }
+}
+
+TEST_F(Terminal, ShowsControlCharactersAsEscapes)
+{
+    const QString name = u"Ebb\nFlow\x1b[31m\u009b\u202e\u2028"_s;
+    writeManuscript({{name, "1"}});
+    PseudoTerminal terminal(hostProgram, exportArguments({u"--pattern"_s, u"<2>"_s}), 400);
+    EXPECT_EQ(terminal.finish(), 0);
+    const QString shown = QString::fromUtf8(terminal.shown());
+    EXPECT_TRUE(shown.contains(exported(u"Ebb\\x0aFlow\\x1b[31m\\x9b\\u202e\\u2028.txt\r\n"_s)))
+        << terminal.shown().constData();
+    for (const QChar character : {u'\x1b', u'\u009b', u'\u202e', u'\u2028'}) {
+        EXPECT_FALSE(shown.contains(character)) << terminal.shown().constData();
+    }
+    PseudoTerminal separated(hostProgram, exportArguments({u"--pattern"_s, u"<2>"_s, u"--yes"_s, u"--null"_s}), 400);
+    EXPECT_EQ(separated.finish(), 0);
+    EXPECT_TRUE(QString::fromUtf8(separated.shown()).contains(u"Flow\x1b[31m"_s)) << "a list for programs is changed";
 }
 
 TEST_F(Terminal, InterruptionStopsAfterTheCurrentDocument)

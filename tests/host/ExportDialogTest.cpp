@@ -107,6 +107,19 @@ TEST_F(ExportDialogTest, ATildeStandsForTheFolderOfTheUser)
     EXPECT_EQ(next.findChild<QLineEdit *>(u"exportFolder"_s)->text(), u"~/Novel"_s);
 }
 
+TEST_F(ExportDialogTest, WithoutAFolderOfTheUserNothingIsWrittenIntoTheRootFolder)
+{
+    const QByteArray home = qgetenv("HOME");
+    qunsetenv("HOME");
+    const host::ExportDialog dialog(m_manuscript, {&m_plugin}, {}, nullptr);
+    auto *folder = dialog.findChild<QLineEdit *>(u"exportFolder"_s);
+    EXPECT_EQ(folder->text(), QString());
+    EXPECT_FALSE(canExport(dialog));
+    folder->setText(u"~/Novel"_s);
+    EXPECT_NE(dialog.names().destination, u"/Novel/"_s);
+    qputenv("HOME", home);
+}
+
 TEST_F(ExportDialogTest, AcceptedItKeepsTheChoicesForTheNextTime)
 {
     {

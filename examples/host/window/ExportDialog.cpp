@@ -29,17 +29,25 @@ constexpr int millisecondsOfPause = 120;
 
 const QStringList usualFileNames{u"<1>"_s, u" "_s, u"<2>"_s};
 
+/// The user's folder; empty where none is known, for which Qt gives the root folder.
+QString userFolder()
+{
+    const QString home = QDir::homePath();
+    return home == QDir::rootPath() ? QString() : home;
+}
+
 /// A path as it is typed, with "~" for the user's folder.
 QString typedPath(const QString &path)
 {
-    const QString home = QDir::homePath();
-    return path.startsWith(home + u'/') ? u'~' + path.sliced(home.size()) : path;
+    const QString home = userFolder();
+    return !home.isEmpty() && path.startsWith(home + u'/') ? u'~' + path.sliced(home.size()) : path;
 }
 
 QString absolutePath(const QString &typed)
 {
-    const bool startsAtHome = typed == u"~" || typed.startsWith("~/"_L1);
-    return QDir(startsAtHome ? QDir::homePath() + typed.sliced(1) : typed).absolutePath();
+    const QString home = userFolder();
+    const bool startsAtHome = !home.isEmpty() && (typed == u"~" || typed.startsWith("~/"_L1));
+    return QDir(startsAtHome ? home + typed.sliced(1) : typed).absolutePath();
 }
 
 QLabel *labelFor(QWidget *buddy, const QString &text)
@@ -117,7 +125,7 @@ QWidget *ExportDialog::formatSide()
 QWidget *ExportDialog::filesSide()
 {
     m_folder->setObjectName(u"exportFolder"_s);
-    m_folder->setText(typedPath(keptValue(keys::destination, QDir::homePath()).toString()));
+    m_folder->setText(typedPath(keptValue(keys::destination, userFolder()).toString()));
     auto *choose = new QPushButton(tr("&Choose…"));
     choose->setAutoDefault(false);
     connect(choose, &QPushButton::clicked, this, &ExportDialog::chooseFolder);

@@ -41,6 +41,7 @@ std::optional<WindowExportResult> exportInWindow(QWidget *window, const Manuscri
         if (!KZArrayExportAdditions::overwriteExistingFilesCheck(paths.all())) {
             return std::nullopt;
         }
+        makeFolders(paths);
         result.wasAborted = writeFiles(files, window);
     } catch (const HostError &error) {
         result.error = sentence(error.message());

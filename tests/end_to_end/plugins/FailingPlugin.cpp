@@ -47,7 +47,8 @@ const Static object;
 
 } // namespace
 
-/// Fails where the document or the environment asks for it, and exports any other document as it is.
+/// Fails where the document or the environment asks for it, and exports any other document as it is. Adds the files
+/// that ADDITIONAL_FILES names, separated by semicolons and with NULL for U+0000, each of which holds its name.
 class FailingPlugin : public TestPlugin
 {
     Q_OBJECT
@@ -109,14 +110,15 @@ public:
     QStringList additionalFileNames() const override
     {
         failIn("additionalFileNames");
-        return {QStringLiteral("index.txt")};
+        const QString names = qEnvironmentVariable("ADDITIONAL_FILES", QStringLiteral("index.txt"));
+        return names.split(u';', Qt::SkipEmptyParts).replaceInStrings(QStringLiteral("NULL"), QString(QChar(u'\0')));
     }
 
-    QByteArray additionalFileData(const QString & /*fileName*/, const QString & /*title*/,
+    QByteArray additionalFileData(const QString &fileName, const QString & /*title*/,
                                   const QList<ExportedFile> & /*files*/) const override
     {
         failIn("additionalFileData");
-        return "index";
+        return fileName.toUtf8();
     }
 };
 
