@@ -16,6 +16,8 @@ class FontPanel;
 /// A field that an interface file makes has one, so that a panel needs no code for its fonts; in a field of your own:
 ///
 ///     new windowing::FontTarget(fontField);
+///
+/// For use on the application's main thread.
 class ORVANE_KIT_EXPORT FontTarget : public QObject
 {
     Q_OBJECT

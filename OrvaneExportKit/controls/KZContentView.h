@@ -14,6 +14,8 @@
 ///
 ///     contentView->removeFromSuperview();
 ///     settings->writeSettingsToDefaults(); // with the text that was being typed
+///
+/// For use on the application's main thread.
 class ORVANE_KIT_EXPORT KZContentView : public QWidget
 {
     Q_OBJECT

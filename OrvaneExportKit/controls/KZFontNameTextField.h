@@ -38,6 +38,8 @@ class FontPanel;
 ///     fontField->setAction("takeFont");
 ///     ...
 ///     Q_INVOKABLE void takeFont(windowing::FontPanel *sender);   // calls sender->convertFont(...)
+///
+/// For use on the application's main thread.
 class ORVANE_KIT_EXPORT KZFontNameTextField : public windowing::TextField
 {
     Q_OBJECT

@@ -19,6 +19,8 @@
 ///     auto *page = new KZPageView(panel);
 ///     page->setPaperSize({842.0, 595.0});
 ///     page->setTopMargin(36.0F);
+///
+/// For use on the application's main thread.
 class ORVANE_KIT_EXPORT KZPageView : public QWidget
 {
     Q_OBJECT

@@ -15,6 +15,8 @@
 ///
 /// All strings are compared exactly, code unit by code unit; only completing ignores case. What the table does not
 /// know stands for itself. The delegate belongs to whoever creates it.
+///
+/// For use on the application's main thread.
 class ORVANE_KIT_EXPORT KZTokenFieldDelegate : public windowing::TokenFieldDelegate
 {
     Q_OBJECT

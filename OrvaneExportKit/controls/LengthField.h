@@ -12,6 +12,8 @@ namespace windowing {
 /// Settings keep lengths in points; bind through "KZMeasurementUnitTransformer":
 ///
 ///     value=settings.top-margin|KZMeasurementUnitTransformer
+///
+/// For use on the application's main thread.
 class ORVANE_KIT_EXPORT LengthField : public QDoubleSpinBox
 {
     Q_OBJECT

@@ -9,6 +9,9 @@
 
 #include <optional>
 
+/// \file
+/// For use on the application's main thread.
+
 namespace windowing {
 
 /// The margins of a page in points.

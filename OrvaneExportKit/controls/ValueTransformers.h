@@ -12,6 +12,8 @@
 /// object is created.
 ///
 /// Numbers go in as anything that `platform/ScalarValues.h` reads, and come out as 32-bit floats, an index as an `int`.
+///
+/// For use on the application's main thread.
 
 /// A length in points, shown in the user's unit.
 ///

@@ -9,6 +9,8 @@
 /// \file
 /// Values that keyed archives hold and that neither C++ nor Qt has a type of its own for. Elements and keys are values
 /// as `KeyedUnarchiver` lists them, in the order of the archive.
+///
+/// For use on any thread, with objects of its own.
 
 namespace platform {
 

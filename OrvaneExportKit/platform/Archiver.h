@@ -13,6 +13,8 @@
 /// The non-keyed archive, in which settings keep values that are not property-list values: fonts, colours, sizes and
 /// every other type that Qt knows how to stream, also inside lists and maps. For the eyes of this kit alone; other
 /// programs read and write keyed archives.
+///
+/// For use on any thread, with objects of its own.
 
 namespace platform {
 

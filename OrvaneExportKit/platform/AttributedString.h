@@ -24,6 +24,9 @@ namespace platform {
 ///
 ///     AttributedString text(u"bold and plain"_s);
 ///     text.addAttributes({{u"weight"_s, u"bold"_s}}, {0, 4});
+///
+/// For use on any thread, with objects of its own. Copies share their memory until one of them changes, also
+/// those of other threads.
 struct ORVANE_CORE_EXPORT AttributedString {
     /// A text whose units all carry `attributes`.
     explicit AttributedString(QString text = {}, const QVariantMap &attributes = {});

@@ -46,6 +46,8 @@ namespace platform {
 ///
 ///     calendarDescription(QDateTime(QDate(2009, 3, 7), QTime(14, 5)), u"%e %B %Y, %H:%M"_s, {});
 ///         // "7 March 2009, 14:05"
+///
+/// For use on any thread, with objects of its own.
 ORVANE_CORE_EXPORT QString calendarDescription(const QDateTime &date, const QString &format, const QVariantMap &locale);
 
 } // namespace platform

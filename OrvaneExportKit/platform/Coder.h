@@ -27,6 +27,8 @@ namespace platform {
 /// An operation that the coder does not serve (reading from an archive that is being written, names in an archive
 /// without them) throws `UnrecognisedOperationException`. Reading throws `ArchiveException` when the archive holds
 /// something else than is asked for; writing throws `InvalidArgumentException` for a value that cannot be archived.
+///
+/// For use on any thread, with objects of its own.
 class ORVANE_CORE_EXPORT Coder
 {
 public:

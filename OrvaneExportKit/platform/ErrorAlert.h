@@ -4,6 +4,9 @@
 
 #include <QtCore/QString>
 
+/// \file
+/// For use on the application's main thread.
+
 namespace platform {
 
 /// How an error that the kit cannot hand back as a result reaches the user: one in the saved settings, and one in what

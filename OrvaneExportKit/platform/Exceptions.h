@@ -14,6 +14,8 @@
 /// an operation's own documentation says which part of its work stays done. After `std::bad_alloc` they always are as
 /// they were, or the work is done, and the call can be made again. Qt 6.4 ends the program itself, though, when memory
 /// runs out while a `QHash` grows or a list made of braces is filled, inside the kit as elsewhere.
+///
+/// For use on any thread, with objects of its own.
 
 namespace platform {
 

@@ -18,6 +18,8 @@
 /// Numbers are written so that reading them gives the same number again, in any locale. Reading takes spaces around
 /// every number, brace and comma, and gives nothing for a string that holds anything else or a number that is not
 /// finite.
+///
+/// For use on any thread, with objects of its own.
 
 namespace platform {
 

@@ -14,6 +14,8 @@
 ///
 /// A key asks an object for its Qt property of that name (a dynamic one too), a `KeyValueCoding` object for whatever it
 /// keeps under the key, and a dictionary (`QVariantMap`) for its entry. Dictionaries begin where objects end.
+///
+/// For use on the application's main thread.
 
 namespace platform {
 

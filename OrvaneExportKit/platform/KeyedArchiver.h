@@ -29,6 +29,8 @@ class KeyedFieldWriter;
 /// more than `KeyedUnarchiver::maximumNesting` values inside each other, and, in XML, strings that the format cannot
 /// hold (see `PropertyList`). A `KeyedObject` that refers to something malformed, in a field that nobody reads, throws
 /// `ArchiveException`.
+///
+/// For use on any thread, with objects of its own. No archived class may be registered or removed meanwhile.
 class ORVANE_CORE_EXPORT KeyedArchiver final : public Coder
 {
 public:

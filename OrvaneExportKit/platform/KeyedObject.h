@@ -21,6 +21,8 @@ class KeyedArchive;
 ///
 /// A small value that refers to the archive, which it keeps in memory; the fields are decoded when they are asked for.
 /// Objects may refer to each other in circles. Two are equal when they are the same object of the same archive.
+///
+/// For use on any thread, with objects of its own.
 class ORVANE_CORE_EXPORT KeyedObject
 {
 public:

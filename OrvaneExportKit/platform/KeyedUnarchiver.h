@@ -52,6 +52,8 @@ class KeyedFieldReader;
 /// than `maximumNesting` objects inside each other. The memory that decoding takes follows the length of the data:
 /// refused are archives whose objects say over and over again that here, too, stands what stands there, and texts with
 /// attributes that could hardly be compared (dictionaries of more than a million values, expanded).
+///
+/// For use on any thread, with objects of its own. No archived class may be registered or removed meanwhile.
 class ORVANE_CORE_EXPORT KeyedUnarchiver final : public Coder
 {
 public:

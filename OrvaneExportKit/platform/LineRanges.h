@@ -5,6 +5,9 @@
 
 #include <string_view>
 
+/// \file
+/// For use on any thread, with objects of its own.
+
 namespace platform {
 
 /// Whether the unit ends a line by itself: U+000A, U+000D, U+0085, U+2028 or U+2029.

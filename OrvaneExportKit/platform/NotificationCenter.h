@@ -38,7 +38,7 @@ private:
 ///     const platform::Observation observation = platform::NotificationCenter::defaultCenter().addObserver(
 ///         KZAbortExportNotification, progressSheet, [&](const platform::Notification &) { stop(); });
 ///
-/// For use on the application's main thread.
+/// For use on the application's main thread. Nothing in it is locked: threads that use it at once damage it.
 class ORVANE_CORE_EXPORT NotificationCenter
 {
 public:

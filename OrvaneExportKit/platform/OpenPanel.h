@@ -4,6 +4,9 @@
 
 #include <QtCore/QString>
 
+/// \file
+/// For use on the application's main thread.
+
 namespace platform {
 
 /// What the kit's core asks of the panel in which a user picks files or folders.

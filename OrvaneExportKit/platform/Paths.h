@@ -9,6 +9,8 @@
 ///
 /// Components are separated by slashes; a run of slashes counts as one, and a slash at the end does not count. Of what
 /// stands before the component in question nothing is changed.
+///
+/// For use on any thread.
 
 namespace platform {
 

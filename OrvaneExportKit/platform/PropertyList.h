@@ -40,6 +40,8 @@ namespace platform {
 ///
 /// Errors are values, one English sentence that begins with the place: line and column (in characters) of an XML list,
 /// the byte of a binary one, and, on writing, the keys and indices that lead to the value.
+///
+/// For use on any thread, with objects of its own.
 struct ORVANE_CORE_EXPORT PropertyList {
     /// The two formats of files.
     enum class Format {

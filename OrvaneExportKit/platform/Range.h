@@ -4,6 +4,9 @@
 #include <limits>
 #include <vector>
 
+/// \file
+/// For use on any thread, with objects of its own.
+
 namespace platform {
 
 /// What a search reports that finds nothing: the largest signed word value. It never stands inside a range list.

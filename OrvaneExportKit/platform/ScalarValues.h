@@ -20,6 +20,8 @@
 /// fraction after a point and an exponent, whatever the locale. The rest does not matter: "12 pt" is 12, "0.5" is 0
 /// and `false` but as a float 0.5. Without a number it is zero. A number outside the type's range gives the nearest end
 /// of it, for a float infinity: "-1" as unsigned is 0, "200" as char is 127.
+///
+/// For use on any thread, with objects of its own.
 
 namespace platform {
 

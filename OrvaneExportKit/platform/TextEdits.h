@@ -8,6 +8,9 @@
 #include <string_view>
 #include <vector>
 
+/// \file
+/// For use on any thread, with objects of its own.
+
 namespace platform {
 
 struct AttributedString;

@@ -4,6 +4,9 @@
 
 #include <string_view>
 
+/// \file
+/// For use on any thread, with objects of its own.
+
 namespace platform {
 
 /// The UTF-16 code units of a string or view, as the finding functions read them. Not a copy: it lives as long as the

@@ -17,6 +17,8 @@ namespace platform {
 /// translated into; a bundle without a file for the language has the texts that its forms and code hold.
 ///
 ///     platform::setLanguage(QLocale(u"de_AT"_s));   // the German texts
+///
+/// For use on the application's main thread.
 ORVANE_CORE_EXPORT void setLanguage(const QLocale &locale);
 
 } // namespace platform

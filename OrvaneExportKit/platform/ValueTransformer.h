@@ -11,6 +11,8 @@
 
 /// \file
 /// Conversions between the values that settings hold and the values that controls show, known to bindings by name.
+///
+/// For use on the application's main thread.
 
 namespace platform {
 

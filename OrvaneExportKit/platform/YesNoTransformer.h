@@ -9,6 +9,8 @@ namespace platform {
 /// the kit is loaded.
 ///
 ///     checked=settings.typography|YesNoTransformer
+///
+/// For use on the application's main thread.
 class ORVANE_CORE_EXPORT YesNoTransformer : public ValueTransformer
 {
 public:

@@ -13,6 +13,8 @@ namespace platform {
 ///         write(*documents[i]);
 ///         progressSheet->incrementToNextStep();
 ///     }
+///
+/// For use on the application's main thread.
 class ORVANE_CORE_EXPORT AbortFlag
 {
 public:

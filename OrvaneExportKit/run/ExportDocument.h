@@ -9,6 +9,8 @@
 /// One document of an export, as the host application hands it to a plug-in.
 ///
 /// Hosts subclass it. The object belongs to the host and outlives the export.
+///
+/// For use on the application's main thread.
 class ORVANE_CORE_EXPORT ExportDocument
 {
 public:

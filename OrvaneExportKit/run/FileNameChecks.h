@@ -8,6 +8,8 @@
 
 /// \file
 /// Questions about output paths that a host asks before an export writes anything. None changes a path.
+///
+/// For use on any thread.
 
 namespace platform {
 

@@ -8,6 +8,9 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
+/// \file
+/// For use on any thread, with documents that no other thread uses meanwhile.
+
 namespace KZStringExportAdditions {
 
 /// The full output path of every document, in their order; from where the user wants the files, a name pattern, and

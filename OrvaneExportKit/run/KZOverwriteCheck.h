@@ -11,6 +11,9 @@
 
 #include <memory>
 
+/// \file
+/// For use on the application's main thread.
+
 namespace KZArrayExportAdditions {
 
 /// Whether an export may write all of these paths: true when none of them exists, as a file or as a folder, or when the

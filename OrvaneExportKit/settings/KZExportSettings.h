@@ -54,7 +54,7 @@ private:
 /// property list fails, the error goes to `platform::alertError`, when what survives (each operation says what) is in
 /// place already. A dictionary whose only key is `CF$UID` stays one: settings hold no references of keyed archives, and
 /// a `PropertyList::Uid` that is put into them comes back as the dictionary that XML writes for it.
-/// For use on the application's main thread.
+/// For use on the application's main thread. Nothing in it is locked: threads that use it at once damage it.
 class ORVANE_CORE_EXPORT KZExportSettings : public platform::KeyValueCoding
 {
     Q_OBJECT

@@ -11,6 +11,8 @@
 ///
 /// The unit is inches when the user's default `AppleMeasurementUnits` is exactly "Inches", otherwise centimetres. Every
 /// call reads the user's defaults anew.
+///
+/// For use on the application's main thread.
 
 namespace platform {
 

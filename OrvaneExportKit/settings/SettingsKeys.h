@@ -7,6 +7,8 @@
 /// \file
 /// Keys and key paths that plug-ins share, so that the styles of one plug-in's settings are found by another and by
 /// the panels. The kit itself reads none of them.
+///
+/// For use on any thread.
 
 // Keys and key paths of the settings.
 ORVANE_CORE_EXPORT extern const QString kDefaultPathKey;         ///< "defaultPath"

@@ -7,6 +7,8 @@
 
 /// \file
 /// Converted copies of a text: backslash escapes turned into control characters, and strings replaced by a table.
+///
+/// For use on any thread, with objects of its own.
 
 namespace KZStringExportAdditions {
 

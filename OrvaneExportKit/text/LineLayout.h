@@ -8,6 +8,8 @@
 /// \file
 /// The line layout that plain-text formats want: no leading tabs, no empty lines, no line beyond a limit.
 /// Lengths and limits count UTF-16 code units.
+///
+/// For use on any thread, with objects of its own.
 
 namespace KZMutableStringExportAdditions {
 

@@ -13,6 +13,9 @@
 /// directly follows a mark or such a line feed is skipped, a line feed among it included, unless a mark follows it.
 /// White space is what Unicode calls separators, with U+0009 to U+000D and U+0085; U+200B is none. The text is walked
 /// as it was, so marks of any length, empty ones included, stand exactly where a straight mark stood.
+///
+/// For use on any thread, with objects of its own. `convertQuotationsToLanguage` looks for its table among the
+/// bundles, of which none may be registered or removed meanwhile.
 
 namespace KZMutableStringExportAdditions {
 

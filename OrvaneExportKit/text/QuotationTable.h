@@ -24,6 +24,8 @@
 /// value of the wrong kind is a mistake that a table's author has to hear of: whoever asks for that language gets an
 /// exception. A mark that is no string is shown by the samples as it is, and gives an exception where a text is to
 /// be converted with it.
+///
+/// For use on any thread, while no bundle is registered or removed.
 
 namespace platform {
 

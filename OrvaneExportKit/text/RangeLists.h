@@ -13,6 +13,8 @@
 /// merged nor clipped. A range that reaches past the end of the text, as it is when the range's turn comes, makes the
 /// operation throw `platform::RangeException`; the ranges behind it have taken effect by then and keep it. An empty
 /// list changes nothing. The cost is linear for sorted lists and adds the sorting of the others.
+///
+/// For use on any thread, with objects of its own.
 
 namespace KZArrayExportAdditions {
 

@@ -10,6 +10,8 @@
 ///
 /// Marks are compared code unit by code unit, case-sensitively. An empty mark, level string or tag finds nothing. For
 /// level strings a line starts at index 0 and after U+000A, at no other terminator. A blank is U+0020 alone.
+///
+/// For use on any thread, with objects of its own.
 
 namespace KZStringExportAdditions {
 

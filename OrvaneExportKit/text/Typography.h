@@ -8,6 +8,8 @@
 /// \file
 /// Typographic corrections. They look at no context: every occurrence is replaced, from the left and without overlap.
 /// On attributed text the new character takes the attributes of the first unit that it replaces.
+///
+/// For use on any thread, with objects of its own.
 
 namespace KZMutableStringExportAdditions {
 

@@ -18,6 +18,8 @@ class QWidget;
 ///
 /// Reading throws `platform::ArchiveException` for a frame that is none or larger than a widget can be, and what the
 /// coder throws.
+///
+/// For use on the application's main thread.
 
 namespace windowing {
 

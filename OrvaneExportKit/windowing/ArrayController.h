@@ -15,6 +15,8 @@ namespace windowing {
 ///     windowing::ArrayController files({u"filename"_s});
 ///     files.addObject({{u"filename"_s, u"Chapter 1.txt"_s}});
 ///     tableView->setModel(&files);
+///
+/// For use on the application's main thread.
 class ORVANE_KIT_EXPORT ArrayController : public QAbstractTableModel
 {
     Q_OBJECT

@@ -26,6 +26,8 @@ class DictionaryModel;
 /// key removes the row, and Tab leaves the table. A new row goes below the current one; the editor of its first text
 /// opens at once. Entries of a dictionary that no column shows stay as they are. The table's accessible name is that of
 /// this widget.
+///
+/// For use on the application's main thread.
 class ORVANE_KIT_EXPORT DictionaryTable : public QWidget
 {
     Q_OBJECT

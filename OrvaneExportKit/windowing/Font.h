@@ -11,6 +11,8 @@ namespace windowing {
 /// hyphen, as in "DejaVuSans-BoldOblique". A plain style has no name: "DejaVuSans".
 ///
 /// Needs a `QGuiApplication`.
+///
+/// For use on the application's main thread.
 struct ORVANE_KIT_EXPORT Font {
     /// The name that documents know the font by.
     static QString fontName(const QFont &font);

@@ -40,6 +40,8 @@ class TextField;
 /// The control then asks the panel to convert what it has:
 ///
 ///     void Editor::changeFont(windowing::FontPanel *sender) { setFont(sender->convertFont(font())); }
+///
+/// For use on the application's main thread.
 class ORVANE_KIT_EXPORT FontPanel : public QDialog
 {
     Q_OBJECT

@@ -5,6 +5,9 @@
 #include <QtCore/QRectF>
 #include <QtWidgets/QWidget>
 
+/// \file
+/// For use on the application's main thread.
+
 namespace windowing {
 
 /// Where a widget stands in its parent, in parts of a pixel too: the frame that it was given last with `setFrame`, or

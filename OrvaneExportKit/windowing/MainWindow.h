@@ -4,6 +4,9 @@
 
 #include <QtWidgets/QWidget>
 
+/// \file
+/// For use on the application's main thread.
+
 namespace windowing {
 
 /// The window that questions about the user's document belong to: the one that the host has set, while it is visible,

@@ -10,6 +10,8 @@ namespace windowing {
 ///
 /// With `wordWrap` it breaks lines, inside a word too where the word alone is wider than the label. Without, it is one
 /// line and leaves out the middle of what is too long. The text is plain text.
+///
+/// For use on the application's main thread.
 class ORVANE_KIT_EXPORT MessageLabel : public QLabel
 {
     Q_OBJECT

@@ -67,6 +67,8 @@ private:
 ///     modalLoop.beginSheet(panel, documentWindow, [&](qint32 code) { modalLoop.stopModalWithCode(code); });
 ///     const qint64 answer = modalLoop.runModalForWindow(panel); // until something calls endSheet(panel, code)
 ///     panel->hide();
+///
+/// For use on the application's main thread.
 class ORVANE_KIT_EXPORT ModalLoop : public QObject
 {
     Q_OBJECT

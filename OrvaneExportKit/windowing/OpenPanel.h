@@ -14,6 +14,8 @@ namespace windowing {
 /// There is one, and the kit's core asks it for the required file type: in a `QApplication` it is installed by itself.
 ///
 ///     windowing::OpenPanel::openPanel().setRequiredFileType(u"rtf"_s);
+///
+/// For use on the application's main thread.
 class ORVANE_KIT_EXPORT OpenPanel final : public platform::OpenPanel
 {
 public:

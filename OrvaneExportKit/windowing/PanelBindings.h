@@ -20,6 +20,8 @@ namespace windowing {
 /// the object name of the control. The other entries are bound all the same.
 ///
 ///     windowing::bindPanel(*panel, controller);
+///
+/// For use on the application's main thread.
 ORVANE_KIT_EXPORT void bindPanel(QWidget &panel, QObject *controller);
 
 /// The same for a panel whose settings have certain keys and no others, such as the choices of a plug-in: an entry with

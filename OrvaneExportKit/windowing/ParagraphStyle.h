@@ -8,6 +8,9 @@
 
 #include <optional>
 
+/// \file
+/// For use on the application's main thread.
+
 namespace windowing {
 
 /// How lines stand between the margins of a text, with the numbers of archives. Natural is left or right, as the

@@ -12,6 +12,8 @@ namespace windowing {
 /// The paper is the usual one of the user's country until the host says what the user prints on:
 ///
 ///     windowing::PrintInfo::sharedPrintInfo().setPaperSize(QPageSize(QPageSize::A5).size(QPageSize::Point));
+///
+/// For use on the application's main thread.
 class ORVANE_KIT_EXPORT PrintInfo
 {
 public:

@@ -11,6 +11,8 @@ namespace windowing {
 ///
 ///     bar->setMaxValue(3);
 ///     bar->setDoubleValue(1);   // a third of the bar
+///
+/// For use on the application's main thread.
 class ORVANE_KIT_EXPORT ProgressIndicator : public QProgressBar
 {
     Q_OBJECT

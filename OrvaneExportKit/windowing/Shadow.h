@@ -8,6 +8,9 @@
 
 class QPainter;
 
+/// \file
+/// For use on the application's main thread.
+
 namespace windowing {
 
 /// The soft shadow of what is drawn.

@@ -8,6 +8,8 @@
 
 /// \file
 /// The attributes of texts that show on the screen, by the names that documents know them under.
+///
+/// For use on the application's main thread.
 
 namespace windowing {
 

@@ -17,6 +17,8 @@ namespace windowing {
 /// Attributes show in a field that is not editable; text that is too long for it ends in an ellipsis there. An editable
 /// field is a plain `QLineEdit`, in its font and bezel alike, and text that the user has changed has the attributes of
 /// plain text.
+///
+/// For use on the application's main thread.
 class ORVANE_KIT_EXPORT TextField : public QLineEdit
 {
     Q_OBJECT

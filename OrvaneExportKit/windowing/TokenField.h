@@ -44,6 +44,8 @@ class TokenEditor;
 /// it.
 ///
 /// `value` is what `filenamesFromComponents` takes. A panel binds it, and `delegate`, to key paths of its controller.
+///
+/// For use on the application's main thread.
 class ORVANE_KIT_EXPORT TokenField : public QWidget
 {
     Q_OBJECT

@@ -13,6 +13,8 @@ class TokenField;
 /// Tells a token field what its tokens stand for and what the user may type. A represented object is what the field's
 /// value holds, a display string what the user reads. An operation may throw a `std::exception`; the field then takes
 /// what it was asked for to be unknown, and shows the error once.
+///
+/// For use on the application's main thread.
 class ORVANE_KIT_EXPORT TokenFieldDelegate : public QObject
 {
     Q_OBJECT
