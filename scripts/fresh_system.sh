@@ -31,8 +31,9 @@ make_system() {
         "${sources[@]}"
 }
 
-# Mounts what a system has that runs.
+# Mounts what a system has that runs; `umount --recursive --lazy` of the system's folder takes all of it away.
 mount_system() {
+    mount --bind "$1" "$1"
     mount -t proc proc "$1/proc"
     mount -t sysfs -o ro sysfs "$1/sys"
     mount -t devpts -o newinstance,gid=5,mode=620,ptmxmode=666 devpts "$1/dev/pts"
