@@ -55,7 +55,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
         if (event->type() == QEvent::Drop) {
-            QMetaObject::invokeMethod(&m_binding, &Binding::commitEdit, Qt::QueuedConnection); // when it has been taken
+            QMetaObject::invokeMethod(&m_binding, "commitEdit", Qt::QueuedConnection); // when it has been taken
         }
         return QObject::eventFilter(watched, event);
     }
