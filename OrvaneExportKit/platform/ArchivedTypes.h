@@ -4,6 +4,8 @@
 
 #include <QtCore/QList>
 #include <QtCore/QMetaType>
+#include <QtCore/QString>
+#include <QtCore/QUrl>
 #include <QtCore/QVariant>
 
 /// \file
@@ -14,7 +16,8 @@
 
 namespace platform {
 
-/// A set: each element once.
+/// A set: each element once. Elements count as equal when they are of the same type and hold the same, also inside
+/// each other; objects of unknown classes only when they are the same object.
 struct ObjectSet {
     QVariantList elements; ///< none is twice in it
 
@@ -23,7 +26,7 @@ struct ObjectSet {
 
 /// A set whose order counts.
 struct OrderedObjectSet {
-    QVariantList elements; ///< in the order of the set
+    QVariantList elements; ///< in the order of the set, none twice
 
     friend bool operator==(const OrderedObjectSet &, const OrderedObjectSet &) = default;
 };
@@ -50,6 +53,23 @@ struct IndexPath {
     QList<quint64> indices; ///< the first is that in the outermost list
 
     friend bool operator==(const IndexPath &, const IndexPath &) = default;
+};
+
+/// A URL that stands relative to a base, or that `QUrl` spells otherwise than the archive does: it turns the letters of
+/// hosts into small ones, for one. `QVariant::toUrl` answers the URL of either type, `QVariant::toString` that of this
+/// one as the archive spells it.
+///
+///     const QVariant link = text.attributesAtIndex(0).value(u"NSLink"_s);
+///     link.toUrl();                           // item://f1b2c3d4
+///     link.value<ArchivedUrl>().string;       // "item://F1B2C3D4"
+struct ORVANE_CORE_EXPORT ArchivedUrl {
+    QString string; ///< as the archive spells it, without the base
+    QVariant base;  ///< a `QUrl` or an `ArchivedUrl`; invalid where the string is the whole URL
+
+    /// The URL as Qt spells it, resolved against its base.
+    QUrl url() const;
+
+    friend bool operator==(const ArchivedUrl &, const ArchivedUrl &) = default;
 };
 
 } // namespace platform

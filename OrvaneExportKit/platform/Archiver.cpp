@@ -1,5 +1,6 @@
 #include <OrvaneExportKit/platform/Archiver.h>
 
+#include <OrvaneExportKit/platform/ArchiveKinds.h>
 #include <OrvaneExportKit/platform/TypeCodes.h>
 
 #include <QtCore/QDataStream>
@@ -18,7 +19,6 @@ namespace {
 // An archive is the magic number, the version, the length of the rest, and the fields. A field is a kind and: for a
 // list its count and values, for a map its count and pairs of key and value, for a typed value its type code and its
 // bytes, for any other its type's name and its streamed bytes.
-constexpr quint32 magicNumber = 0x4F454B41;
 constexpr quint16 archiveVersion = 1;
 constexpr auto streamVersion = QDataStream::Qt_6_4;
 constexpr int maximumNesting = 512;
@@ -144,7 +144,7 @@ public:
         quint16 version = 0;
         quint64 length = 0;
         m_stream >> magic >> version >> length;
-        if (magic != magicNumber || version != archiveVersion || length != bytesLeft()) {
+        if (magic != archiveMagicNumber || version != archiveVersion || length != bytesLeft()) {
             throw ArchiveException("Unarchiver: the data is not a whole archive");
         }
     }
@@ -295,7 +295,7 @@ QByteArray Archiver::archivedData() const
     QByteArray archive;
     QDataStream stream(&archive, QIODevice::WriteOnly);
     stream.setVersion(streamVersion);
-    stream << magicNumber << archiveVersion << quint64(m_writer->data().size());
+    stream << archiveMagicNumber << archiveVersion << quint64(m_writer->data().size());
     return archive + m_writer->data();
 }
 
@@ -327,11 +327,25 @@ void Archiver::encodeValueOfObjCType(const char *type, const void *address)
 
 QVariant Unarchiver::unarchiveObjectWithData(const QByteArray &data)
 {
+    QString error;
+    return unarchiveObjectWithData(data, error);
+}
+
+QVariant Unarchiver::unarchiveObjectWithData(const QByteArray &data, QString &error)
+{
+    error.clear();
     try {
         Reader reader(data);
         QVariant value = reader.read("unarchiveObjectWithData");
-        return reader.atEnd() ? value : QVariant();
-    } catch (const ArchiveException &) {
+        if (!reader.atEnd()) {
+            throw ArchiveException("unarchiveObjectWithData: the archive goes on behind its value");
+        }
+        if (!value.isValid()) {
+            throw ArchiveException("unarchiveObjectWithData: the archive holds no object");
+        }
+        return value;
+    } catch (const ArchiveException &exception) {
+        error = QString::fromUtf8(exception.what());
         return {};
     }
 }

@@ -62,6 +62,10 @@ public:
     /// `QVariant`.
     static QVariant unarchiveObjectWithData(const QByteArray &data);
 
+    /// The same, and why there is no value, in a sentence: "Unarchiver: the data is not a whole archive". Empty when
+    /// there is one.
+    static QVariant unarchiveObjectWithData(const QByteArray &data, QString &error);
+
     /// Opens an archive. Throws `ArchiveException` when the data is none; so do the operations that find another field
     /// than they are asked for, none any more, or a broken one.
     explicit Unarchiver(const QByteArray &data);

@@ -1,5 +1,6 @@
 #include <OrvaneExportKit/platform/KeyedArchive.h>
 
+#include <OrvaneExportKit/platform/ArchiveKinds.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/platform/PropertyList.h>
 
@@ -22,6 +23,9 @@ std::string placeOf(quint32 index)
 
 QVariantMap readPropertyList(QByteArrayView data)
 {
+    if (isTypedStream(data)) {
+        failInArchive("the archive", typedStreamComplaint());
+    }
     const PropertyList::ReadResult list = PropertyList::read(data);
     if (!list.value) {
         failInArchive("the archive is no property list", list.error);

@@ -19,8 +19,10 @@ class KeyedFieldWriter;
 ///     const QByteArray data = KeyedArchiver::archivedDataWithRootObject(u"Chapter 1"_s);
 ///
 /// Written are the values that `KeyedUnarchiver` reads, each as the class that it is read from; further every integer
-/// type of C++, `float`, `QStringList` (as a list), `QVariantHash` (as a map), and the values of registered classes. A
-/// `KeyedObject` is written as it stands in the archive that it comes from, with all objects that it refers to.
+/// type of C++, `float`, `QPoint`, `QSize`, `QRect`, `QMargins` (as those with reals), `QDate` (as its start in UTC),
+/// lists and arrays of any type that Qt can look into (`QStringList`, `QList<double>`), maps of such with strings as
+/// keys (`QMap<QString, QString>`), and the values of registered classes. A `KeyedObject` is written as it stands in
+/// the archive that it comes from, with all objects that it refers to.
 ///
 /// Equal values of the same type are written once and referred to, so that archives stay small; so is what a pointer of
 /// a registered class points to, which may refer back to itself.

@@ -9,6 +9,7 @@
 #include <OrvaneExportKit/platform/Range.h>
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace platform {
 
@@ -27,6 +28,61 @@ QVariantList decodeKeys(KeyedFieldReader &reader)
 {
     return reader.containsValueForKey(u"NS.keys"_s) ? reader.objectsForKey(u"NS.keys"_s)
                                                     : reader.numberedObjects(u"NS.key."_s);
+}
+
+/// For every value the place of the first one that equals it.
+QList<qsizetype> placesOfFirstEqual(KeyedFieldReader &reader, const QVariantList &values)
+{
+    std::unordered_map<quint64, qsizetype> firstPlaces;
+    QList<qsizetype> places;
+    for (qsizetype i = 0; i < values.size(); ++i) {
+        const std::optional<quint64> number = reader.decoder().numberOf(values[i]);
+        places.append(number ? firstPlaces.try_emplace(*number, i).first->second : i);
+    }
+    return places;
+}
+
+/// The elements of a set, each once.
+QVariantList decodeDistinctElements(KeyedFieldReader &reader)
+{
+    const QVariantList elements = decodeElements(reader);
+    if (elements.size() < 2) {
+        return elements;
+    }
+    const QList<qsizetype> places = placesOfFirstEqual(reader, elements);
+    QVariantList distinct;
+    for (qsizetype i = 0; i < elements.size(); ++i) {
+        if (places[i] == i) {
+            distinct.append(elements[i]);
+        }
+    }
+    return distinct;
+}
+
+/// With every key once; of several objects the last counts, as in a dictionary whose keys are strings.
+ObjectDictionary dictionaryOf(KeyedFieldReader &reader, const QVariantList &keys, const QVariantList &objects)
+{
+    const QList<qsizetype> places = placesOfFirstEqual(reader, keys);
+    QList<qsizetype> newPlaces;
+    ObjectDictionary dictionary;
+    for (qsizetype i = 0; i < keys.size(); ++i) {
+        if (places[i] == i) {
+            newPlaces.append(dictionary.keys.size());
+            dictionary.keys.append(keys[i]);
+            dictionary.objects.append(objects[i]);
+        } else {
+            newPlaces.append(newPlaces[places[i]]);
+            dictionary.objects[newPlaces[i]] = objects[i];
+        }
+    }
+    return dictionary;
+}
+
+/// The elements of a counted set, which stand as those of a set where the archive has no counts.
+QVariantList decodeCountedElements(KeyedFieldReader &reader)
+{
+    const bool isCounted = reader.containsValueForKey(u"NS.count"_s) || reader.containsValueForKey(u"NS.object0"_s);
+    return isCounted ? reader.numberedObjects(u"NS.object"_s) : decodeElements(reader);
 }
 
 bool isString(const QVariant &value)
@@ -74,7 +130,7 @@ QVariant decodeDictionary(KeyedFieldReader &reader)
         reader.fail(u"there are %1 keys and %2 objects"_s.arg(keys.size()).arg(objects.size()));
     }
     if (!std::all_of(keys.begin(), keys.end(), isString)) {
-        return QVariant::fromValue(ObjectDictionary{keys, objects});
+        return QVariant::fromValue(dictionaryOf(reader, keys, objects));
     }
     QVariantMap map;
     for (qsizetype i = 0; i < keys.size(); ++i) {
@@ -85,22 +141,34 @@ QVariant decodeDictionary(KeyedFieldReader &reader)
 
 QVariant decodeSet(KeyedFieldReader &reader)
 {
-    return QVariant::fromValue(ObjectSet{decodeElements(reader)});
+    return QVariant::fromValue(ObjectSet{decodeDistinctElements(reader)});
 }
 
 QVariant decodeOrderedSet(KeyedFieldReader &reader)
 {
-    return QVariant::fromValue(OrderedObjectSet{decodeElements(reader)});
+    return QVariant::fromValue(OrderedObjectSet{decodeDistinctElements(reader)});
 }
 
 QVariant decodeCountedSet(KeyedFieldReader &reader)
 {
-    CountedObjectSet set{reader.numberedObjects(u"NS.object"_s), {}};
-    if (reader.countForKey(u"NS.count"_s) != static_cast<quint64>(set.elements.size())) {
-        reader.fail(u"`NS.count` is not the number of elements, %1"_s.arg(set.elements.size()));
+    const QVariantList elements = decodeCountedElements(reader);
+    if (reader.containsValueForKey(u"NS.count"_s) &&
+        reader.countForKey(u"NS.count"_s) != static_cast<quint64>(elements.size())) {
+        reader.fail(u"`NS.count` is not the number of elements, %1"_s.arg(elements.size()));
     }
-    for (qsizetype i = 0; i < set.elements.size(); ++i) {
-        set.counts.append(reader.countForKey(u"NS.count%1"_s.arg(i)));
+    const QList<qsizetype> places = placesOfFirstEqual(reader, elements);
+    QList<qsizetype> newPlaces;
+    CountedObjectSet set;
+    for (qsizetype i = 0; i < elements.size(); ++i) {
+        const QString key = u"NS.count%1"_s.arg(i);
+        const quint64 count = reader.containsValueForKey(key) ? reader.countForKey(key) : 1;
+        newPlaces.append(places[i] == i ? set.elements.size() : newPlaces[places[i]]);
+        if (places[i] == i) {
+            set.elements.append(elements[i]);
+            set.counts.append(count);
+        } else {
+            set.counts[newPlaces[i]] += count;
+        }
     }
     return QVariant::fromValue(set);
 }

@@ -1,5 +1,7 @@
 #include <OrvaneExportKit/platform/KeyedDecoder.h>
 
+#include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/platform/KeyedEncoder.h>
 #include <OrvaneExportKit/platform/KeyedFieldReader.h>
 #include <OrvaneExportKit/platform/KeyedObject.h>
 #include <OrvaneExportKit/platform/KeyedUnarchiver.h>
@@ -19,6 +21,7 @@ using namespace Qt::Literals::StringLiterals;
 
 constexpr quint64 bytesPerArchivedByte = 64;      // two values in an array take a byte each, at the least
 constexpr quint64 unitsPerValue = 32;             // of a string that are compared as fast as another value
+constexpr int mostUnnumbered = 64;                // values; finding one out may take as long as all objects do
 constexpr quint64 maximumComparison = 1ULL << 26; // values, about a second
 
 /// The content of a value of that type; null for any other.
@@ -76,6 +79,8 @@ KeyedDecoder::KeyedDecoder(std::shared_ptr<const KeyedArchive> archive) : m_arch
 {
 }
 
+KeyedDecoder::~KeyedDecoder() = default;
+
 QVariant KeyedDecoder::decode(quint32 index)
 {
     const QVariant &object = m_archive->object(index);
@@ -129,6 +134,26 @@ void KeyedDecoder::spendComparison(quint64 values)
     m_compared += values;
     if (m_compared > maximumComparison) {
         failInArchive("the archive", u"its attributes hold too much to be compared"_s);
+    }
+}
+
+std::optional<quint64> KeyedDecoder::numberOf(const QVariant &value)
+{
+    constexpr quint64 firstOfUnknownObjects = 1ULL << 32;
+    if (const auto *object = contentAs<KeyedObject>(value)) {
+        return firstOfUnknownObjects + object->m_index;
+    }
+    if (m_unnumbered == mostUnnumbered) {
+        return std::nullopt;
+    }
+    if (!m_numbers) {
+        m_numbers = std::make_unique<KeyedEncoder>();
+    }
+    try {
+        return m_numbers->encode(value).value;
+    } catch (const Exception &) {
+        ++m_unnumbered; // it cannot be archived again
+        return std::nullopt;
     }
 }
 

@@ -6,16 +6,22 @@
 #include <QtCore/QVariant>
 
 #include <memory>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
 namespace platform {
+
+class KeyedEncoder;
 
 /// Decodes the objects of a keyed archive, each once.
 class KeyedDecoder
 {
 public:
     explicit KeyedDecoder(std::shared_ptr<const KeyedArchive> archive);
+    KeyedDecoder(const KeyedDecoder &) = delete;
+    KeyedDecoder &operator=(const KeyedDecoder &) = delete;
+    ~KeyedDecoder();
 
     const KeyedArchive &archive() const { return *m_archive; }
 
@@ -39,6 +45,10 @@ public:
     /// Called for every comparison of decoded maps, with the values in them. Throws an `ArchiveException` when there
     /// are too many.
     void spendComparison(quint64 values);
+
+    /// A number that equal values of the same type share, and no others; nothing for a value that cannot be told from
+    /// others. The value is one that was decoded here.
+    std::optional<quint64> numberOf(const QVariant &value);
 
 private:
     struct Class {
@@ -68,7 +78,9 @@ private:
     std::unordered_map<quint32, Class> m_classes;             ///< by index
     std::vector<quint32> m_unknownObjects;                    ///< handed out, their fields not yet decoded
     std::unordered_map<const void *, quint64> m_valuesInside; ///< by the address of the first key
-    Extent m_extent;                                          ///< of the object in progress, so far
+    std::unique_ptr<KeyedEncoder> m_numbers;                  ///< gives equal values the same reference
+    int m_unnumbered = 0;
+    Extent m_extent; ///< of the object in progress, so far
     int m_nesting = 0;
     quint64 m_spent = 0;
     quint64 m_compared = 0;

@@ -7,7 +7,9 @@
 #include <OrvaneExportKit/platform/KeyedUnarchiver.h>
 #include <OrvaneExportKit/platform/PropertyListValues.h>
 
+#include <QtCore/QAssociativeIterable>
 #include <QtCore/QScopeGuard>
+#include <QtCore/QSequentialIterable>
 
 namespace platform {
 
@@ -152,10 +154,10 @@ KeyedEncoder::Reference KeyedEncoder::encodeInstance(const QStringList &classNam
         if (m_objects.size() == qsizetype{reference.value} + 1) { // not if an encoder wrote a field twice
             m_objects.removeLast();
         }
-        return *known;
+        return known->second;
     }
     m_objects[reference.value] = fields;
-    m_instances.insert(key, reference);
+    m_instances.emplace(key, reference);
     return reference;
 }
 
@@ -211,10 +213,7 @@ KeyedEncoder::Reference KeyedEncoder::encodeNew(const QVariant &object)
         encoding = m_encodings.emplace(object.metaType().id(), keyedEncode(object.metaType())).first;
     }
     if (!encoding->second) {
-        if (!isPlain(object)) {
-            refuse(std::string("a value of type ") + object.typeName() + " cannot be archived");
-        }
-        return encodePlain(object);
+        return isPlain(object) ? encodePlain(object) : encodeContainer(object);
     }
     if (isPointer(object)) {
         return encodePointer(object, *encoding->second);
@@ -227,14 +226,14 @@ KeyedEncoder::Reference KeyedEncoder::encodeString(const QString &string)
 {
     const auto known = m_strings.find(string);
     if (known != m_strings.end()) {
-        return *known;
+        return known->second;
     }
     const auto asObject = [&string](KeyedFieldWriter &writer) {
         writer.encodeString(string, u"NS.string"_s);
     };
     const Reference reference =
         string == KeyedArchive::nothing ? encodeInstance({u"NSString"_s, u"NSObject"_s}, asObject) : append(string);
-    m_strings.insert(string, reference);
+    m_strings.emplace(string, reference);
     return reference;
 }
 
@@ -243,7 +242,21 @@ KeyedEncoder::Reference KeyedEncoder::encodePlain(const QVariant &value)
     QByteArray key;
     appendFingerprint(key, value);
     const auto known = m_plainValues.find(key);
-    return known != m_plainValues.end() ? *known : *m_plainValues.insert(key, append(value));
+    return known != m_plainValues.end() ? known->second : m_plainValues.emplace(key, append(value)).first->second;
+}
+
+/// A list of any type that Qt can look into, or a map of one whose keys are strings.
+KeyedEncoder::Reference KeyedEncoder::encodeContainer(const QVariant &container)
+{
+    if (container.canView<QAssociativeIterable>()) {
+        const auto entries = container.value<QAssociativeIterable>();
+        if (entries.metaContainer().keyMetaType() == QMetaType::fromType<QString>()) {
+            return encode(container.toMap());
+        }
+    } else if (container.canView<QSequentialIterable>()) {
+        return encode(container.toList());
+    }
+    refuse(std::string("a value of type ") + container.typeName() + " cannot be archived");
 }
 
 /// What pointers point to may refer to itself, so it is entered before its fields.
@@ -358,13 +371,13 @@ KeyedEncoder::Reference KeyedEncoder::classReference(const QString &name, const 
     const QString key = name + u'\n' + names.join(u'\n');
     const auto known = m_classes.find(key);
     if (known != m_classes.end()) {
-        return *known;
+        return known->second;
     }
     QVariantMap record{{u"$classname"_s, name}};
     if (!names.isEmpty()) {
         record.insert(u"$classes"_s, QVariantList(names.begin(), names.end()));
     }
-    return *m_classes.insert(key, append(record));
+    return m_classes.emplace(key, append(record)).first->second;
 }
 
 KeyedEncoder::Reference KeyedEncoder::append(const QVariant &object)

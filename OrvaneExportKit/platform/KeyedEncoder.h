@@ -4,7 +4,6 @@
 #include <OrvaneExportKit/platform/KeyedClasses.h>
 #include <OrvaneExportKit/platform/PropertyList.h>
 
-#include <QtCore/QHash>
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
@@ -52,6 +51,7 @@ private:
     Reference encodeNew(const QVariant &object);
     Reference encodeString(const QString &string);
     Reference encodePlain(const QVariant &value);
+    Reference encodeContainer(const QVariant &container);
     Reference encodePointer(const QVariant &object, const KeyedEncode &encoding);
     QVariantMap writtenFields(const QStringList &classNames, const WriteFields &writeFields);
 
@@ -64,10 +64,11 @@ private:
     Reference append(const QVariant &object);
 
     QVariantList m_objects;
-    QHash<QString, Reference> m_strings;
-    QHash<QByteArray, Reference> m_plainValues; ///< by the property list of the value
-    QHash<QByteArray, Reference> m_instances;   ///< by the property list of the fields
-    QHash<QString, Reference> m_classes;        ///< by all names
+    // Not in a QHash, which ends the program when there is no memory for it to grow.
+    std::unordered_map<QString, Reference> m_strings;
+    std::unordered_map<QByteArray, Reference> m_plainValues; ///< by the property list of the value
+    std::unordered_map<QByteArray, Reference> m_instances;   ///< by the property list of the fields
+    std::unordered_map<QString, Reference> m_classes;        ///< by all names
     std::unordered_map<int, std::optional<KeyedEncode>> m_encodings;
     /// The values are kept, so that no other takes their addresses.
     std::map<Identity, std::pair<QVariant, Reference>> m_sharedValues;

@@ -1,5 +1,6 @@
 #include <OrvaneExportKit/platform/KeyedObject.h>
 
+#include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/platform/KeyedArchive.h>
 #include <OrvaneExportKit/platform/KeyedDecoder.h>
 #include <OrvaneExportKit/platform/KeyedFieldReader.h>
@@ -57,6 +58,16 @@ QVariant KeyedObject::value(const QString &key) const
     }
     KeyedDecoder decoder(m_archive);
     return KeyedFieldReader(decoder, m_archive->fields(m_index), m_index, className()).decodeField(key);
+}
+
+void KeyedObject::decodeFields(const std::function<void(Coder &coder)> &decode) const
+{
+    if (isNull()) {
+        throw InvalidArgumentException("decodeFields: there is no object");
+    }
+    KeyedDecoder decoder(m_archive);
+    KeyedFieldReader reader(decoder, m_archive->fields(m_index), m_index, className());
+    decode(reader);
 }
 
 } // namespace platform

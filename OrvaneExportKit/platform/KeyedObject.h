@@ -2,14 +2,17 @@
 
 #include <OrvaneExportKit/ExportMacros.h>
 
+#include <QtCore/QHash>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
 
+#include <functional>
 #include <memory>
 
 namespace platform {
 
+class Coder;
 class KeyedArchive;
 
 /// An object of a keyed archive whose class is not known here: its class names and its fields, as they stand.
@@ -55,7 +58,23 @@ public:
     /// once before it returns. The exception is a decoder that throws later though it did not at first.
     QVariant value(const QString &key) const;
 
+    /// Lets a class that reads itself from archives read the fields of this object, by their names without the `$` that
+    /// archives put before others:
+    ///
+    ///     std::unique_ptr<KZPageView> view;
+    ///     object.decodeFields([&view](Coder &coder) { view = KZPageView::initWithCoder(coder); });
+    ///
+    /// The coder is valid during the call. Throws what `decode` throws, `ArchiveException` when what it reads is
+    /// malformed, and `InvalidArgumentException` when this is no object.
+    void decodeFields(const std::function<void(Coder &coder)> &decode) const;
+
     friend bool operator==(const KeyedObject &, const KeyedObject &) = default;
+
+    /// The same for equal objects.
+    friend std::size_t qHash(const KeyedObject &object, std::size_t seed = 0) noexcept
+    {
+        return qHashMulti(seed, object.m_archive.get(), object.m_index);
+    }
 
 private:
     friend class KeyedDecoder;

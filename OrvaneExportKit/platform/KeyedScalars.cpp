@@ -1,20 +1,27 @@
 #include <OrvaneExportKit/platform/KeyedScalars.h>
 
+#include <OrvaneExportKit/platform/ArchivedTypes.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/platform/GeometryStrings.h>
 #include <OrvaneExportKit/platform/KeyedDecoder.h>
 #include <OrvaneExportKit/platform/KeyedFieldReader.h>
 #include <OrvaneExportKit/platform/KeyedFieldWriter.h>
+#include <OrvaneExportKit/platform/KeyedObject.h>
 #include <OrvaneExportKit/platform/Range.h>
+#include <OrvaneExportKit/platform/Utf8.h>
 
 #include <QtCore/QDateTime>
 #include <QtCore/QMarginsF>
-#include <QtCore/QStringConverter>
 #include <QtCore/QTimeZone>
 #include <QtCore/QUrl>
 #include <QtCore/QUuid>
+#include <QtCore/QtEndian>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <limits>
+#include <span>
 
 namespace platform {
 
@@ -47,9 +54,72 @@ QVariant decodeGeometryString(KeyedFieldReader &reader, const QString &key, Pars
     return *geometry;
 }
 
-void spendUrl(KeyedFieldReader &reader, const QString &url)
+/// The most significant word last.
+using Mantissa = std::array<quint16, 8>;
+
+/// Words of the mantissa, as many as `NS.length` says, in the byte order of the machine that wrote them.
+Mantissa decodeMantissa(KeyedFieldReader &reader)
 {
-    reader.decoder().spend(static_cast<quint64>(url.size()) * sizeof(QChar));
+    constexpr qint64 bigEndian = 2;
+    Mantissa mantissa{};
+    const quint64 length = reader.countForKey(u"NS.length"_s);
+    const QByteArray bytes = reader.dataForKey(u"NS.mantissa"_s);
+    if (length > mantissa.size() || static_cast<quint64>(bytes.size()) < length * sizeof(quint16)) {
+        reader.fail(u"`NS.mantissa` has %1 bytes; `NS.length` says %2 words"_s.arg(bytes.size()).arg(length));
+    }
+    const bool isBigEndian = reader.decodeInt64ForKey(u"NS.mantissa.bo"_s) == bigEndian;
+    for (std::size_t i = 0; i < length; ++i) {
+        const char *word = bytes.constData() + i * sizeof(quint16);
+        mantissa[i] = isBigEndian ? qFromBigEndian<quint16>(word) : qFromLittleEndian<quint16>(word);
+    }
+    return mantissa;
+}
+
+QByteArray decimalDigits(Mantissa number)
+{
+    QByteArray digits;
+    while (std::ranges::any_of(number, [](quint16 word) { return word != 0; })) {
+        quint32 remainder = 0;
+        for (auto word = number.rbegin(); word != number.rend(); ++word) {
+            const quint32 dividend = (remainder << 16) | *word;
+            *word = static_cast<quint16>(dividend / 10);
+            remainder = dividend % 10;
+        }
+        digits.prepend(static_cast<char>('0' + remainder));
+    }
+    return digits.isEmpty() ? "0" : digits;
+}
+
+/// The integer, where 64 bits hold it, else the nearest real.
+QVariant decimalNumber(QByteArray digits, qint64 exponent, bool isNegative)
+{
+    constexpr qint64 mostDigits = std::numeric_limits<quint64>::digits10 + 1;
+    while (exponent < 0 && digits.endsWith('0')) {
+        digits.chop(1);
+        ++exponent;
+    }
+    const QByteArray sign = isNegative ? "-" : "";
+    if (exponent == 0 || (exponent > 0 && exponent + digits.size() <= mostDigits)) {
+        const QByteArray integer = sign + digits + QByteArray(static_cast<qsizetype>(exponent), '0');
+        bool fits = false;
+        if (const qint64 number = integer.toLongLong(&fits); fits) {
+            return number;
+        }
+        if (const quint64 number = integer.toULongLong(&fits); fits) {
+            return number;
+        }
+    }
+    return (sign + digits + 'e' + QByteArray::number(exponent)).toDouble();
+}
+
+bool isUrl(const QVariant &value)
+{
+    return value.metaType() == QMetaType::fromType<QUrl>() || value.metaType() == QMetaType::fromType<ArchivedUrl>();
+}
+
+bool isUrlThatQtRefuses(const QVariant &value)
+{
+    return value.metaType() == QMetaType::fromType<KeyedObject>() && value.value<KeyedObject>().className() == u"NSURL";
 }
 
 std::size_t rangeMember(KeyedFieldReader &reader, const QString &key)
@@ -73,12 +143,11 @@ QVariant decodeString(KeyedFieldReader &reader)
     }
     const QByteArray bytes = reader.decodeBytesForKey(u"NS.bytes"_s);
     reader.decoder().spend(static_cast<quint64>(bytes.size()) * sizeof(QChar));
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    QString string = decoder(bytes);
-    if (decoder.hasError()) {
+    const std::optional<QString> string = stringFromUtf8(bytes);
+    if (!string) {
         reader.fail(u"`NS.bytes` is not UTF-8"_s);
     }
-    return string;
+    return *string;
 }
 
 QVariant decodeNumber(KeyedFieldReader &reader)
@@ -96,6 +165,20 @@ QVariant decodeNumber(KeyedFieldReader &reader)
     return reader.numberForKey(key);
 }
 
+QVariant decodeDecimalNumber(KeyedFieldReader &reader)
+{
+    constexpr qint64 furthestExponent = 128;
+    const qint64 exponent = reader.decodeInt64ForKey(u"NS.exponent"_s);
+    if (std::abs(exponent) > furthestExponent) {
+        reader.fail(u"`NS.exponent` is %1, which is none"_s.arg(exponent));
+    }
+    const bool isNegative = reader.decodeBoolForKey(u"NS.negative"_s);
+    if (reader.countForKey(u"NS.length"_s) == 0) {
+        return isNegative ? QVariant(std::numeric_limits<double>::quiet_NaN()) : QVariant(qint64(0));
+    }
+    return decimalNumber(decimalDigits(decodeMantissa(reader)), exponent, isNegative);
+}
+
 QVariant decodeNull(KeyedFieldReader & /*reader*/)
 {
     return QVariant::fromValue(nullptr);
@@ -103,14 +186,14 @@ QVariant decodeNull(KeyedFieldReader & /*reader*/)
 
 QVariant decodeData(KeyedFieldReader &reader)
 {
-    return reader.decodeBytesForKey(reader.containsValueForKey(u"NS.data"_s) ? u"NS.data"_s : u"NS.bytes"_s);
+    return reader.dataForKey(reader.containsValueForKey(u"NS.data"_s) ? u"NS.data"_s : u"NS.bytes"_s);
 }
 
 QVariant decodeDate(KeyedFieldReader &reader)
 {
     const double seconds = reader.decodeDoubleForKey(u"NS.time"_s);
     if (!(std::abs(seconds) <= furthestSecond)) {
-        reader.fail(u"`NS.time` is no time"_s);
+        return {};
     }
     return QDateTime::fromMSecsSinceEpoch(std::llround(seconds * 1000) + millisecondsTo2001, QTimeZone::utc());
 }
@@ -118,21 +201,19 @@ QVariant decodeDate(KeyedFieldReader &reader)
 QVariant decodeUrl(KeyedFieldReader &reader)
 {
     const QString relative = reader.stringObjectForKey(u"NS.relative"_s);
-    spendUrl(reader, relative);
-    QUrl url(relative);
-    if (!url.isValid() && !relative.isEmpty()) {
-        reader.fail(u"`NS.relative` is no URL"_s);
-    }
+    reader.decoder().spend(static_cast<quint64>(relative.size()) * sizeof(QChar));
     const QVariant base = reader.decodeObjectForKey(u"NS.base"_s);
-    if (!base.isValid()) {
-        return url;
+    const QUrl url(relative);
+    if (isUrlThatQtRefuses(base) || (!url.isValid() && !relative.isEmpty())) {
+        return {};
     }
-    if (base.metaType() != QMetaType::fromType<QUrl>()) {
+    if (base.isValid() && !isUrl(base)) {
         reader.fail(u"`NS.base` is no URL"_s);
     }
-    const QUrl resolved = base.toUrl().resolved(url);
-    spendUrl(reader, resolved.toString());
-    return resolved;
+    if (!base.isValid() && url.toString(QUrl::FullyEncoded) == relative) {
+        return url;
+    }
+    return QVariant::fromValue(ArchivedUrl{relative, base});
 }
 
 QVariant decodeUuid(KeyedFieldReader &reader)
@@ -172,7 +253,8 @@ void encodeNull(const QVariant & /*value*/, KeyedFieldWriter & /*writer*/)
 
 void encodeDate(const QVariant &value, KeyedFieldWriter &writer)
 {
-    const QDateTime date = value.toDateTime();
+    const bool isDay = value.metaType() == QMetaType::fromType<QDate>();
+    const QDateTime date = isDay ? value.toDate().startOfDay(Qt::UTC) : value.toDateTime();
     if (!date.isValid()) {
         throw InvalidArgumentException("encodeObject: a date is not valid");
     }
@@ -183,6 +265,13 @@ void encodeUrl(const QVariant &value, KeyedFieldWriter &writer)
 {
     writer.encodeObject(QVariant(), u"NS.base"_s);
     writer.encodeObject(value.toUrl().toString(QUrl::FullyEncoded), u"NS.relative"_s);
+}
+
+void encodeArchivedUrl(const QVariant &value, KeyedFieldWriter &writer)
+{
+    const auto url = value.value<ArchivedUrl>();
+    writer.encodeObject(url.base, u"NS.base"_s);
+    writer.encodeObject(url.string, u"NS.relative"_s);
 }
 
 void encodeUuid(const QVariant &value, KeyedFieldWriter &writer)
@@ -218,7 +307,8 @@ void encodeRange(const QVariant &value, KeyedFieldWriter &writer)
 
 void encodeEdgeInsets(const QVariant &value, KeyedFieldWriter &writer)
 {
-    const auto insets = value.value<QMarginsF>();
+    const bool isWhole = value.metaType() == QMetaType::fromType<QMargins>();
+    const QMarginsF insets = isWhole ? QMarginsF(value.value<QMargins>()) : value.value<QMarginsF>();
     writer.encodeInt64(EdgeInsets, u"NS.special"_s);
     writer.encodeDouble(insets.top(), u"NS.edgeval.top"_s);
     writer.encodeDouble(insets.left(), u"NS.edgeval.left"_s);

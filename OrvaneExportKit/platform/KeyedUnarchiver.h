@@ -23,7 +23,7 @@ class KeyedFieldReader;
 /// | class                                   | becomes                                                       |
 /// |-----------------------------------------|---------------------------------------------------------------|
 /// | `NSString`                              | `QString`                                                     |
-/// | `NSNumber`                              | `bool`, `qint64`, above its range `quint64`, or `double`      |
+/// | `NSNumber`, `NSDecimalNumber`           | `bool`, `qint64`, above its range `quint64`, or `double`      |
 /// | `NSNull`                                | `std::nullptr_t`                                              |
 /// | `NSData`                                | `QByteArray`                                                  |
 /// | `NSDate`                                | `QDateTime` in UTC, to the millisecond                        |
@@ -31,7 +31,7 @@ class KeyedFieldReader;
 /// | `NSDictionary`                          | `QVariantMap`; `ObjectDictionary` if not all keys are strings |
 /// | `NSSet`, `NSOrderedSet`                 | `ObjectSet`, `OrderedObjectSet`                               |
 /// | `NSCountedSet`                          | `CountedObjectSet`                                            |
-/// | `NSURL`                                 | `QUrl`, resolved against its base                             |
+/// | `NSURL`                                 | `QUrl`; `ArchivedUrl` if that spells it otherwise             |
 /// | `NSUUID`                                | `QUuid`                                                       |
 /// | `NSValue` of a point, size or rectangle | `QPointF`, `QSizeF`, `QRectF`                                 |
 /// | `NSValue` of a range or edge insets     | `Range`, `QMarginsF`                                          |
@@ -40,7 +40,12 @@ class KeyedFieldReader;
 ///
 /// A registered class (`ArchivedClassRegistration`) becomes what its decoder makes of it; the library with the windows
 /// registers colours, fonts and paragraph styles. An object of any other class becomes a `KeyedObject`, which keeps
-/// the class and all fields. No object (nil) becomes an invalid `QVariant`.
+/// the class and all fields. So does one that is well-formed but holds what the type above cannot: a URL that is none
+/// to `QUrl`, a colour of an unknown space, a font without a name, an alignment that is none. Views become
+/// `KeyedObject`s, too; `windowing::unarchivedView` makes a view of one. No object (nil) becomes an invalid `QVariant`.
+///
+/// Of elements of a set that are equal, and of the same type, one is kept; a counted set without counts counts them.
+/// Decimals become the integer that they are, or else the nearest `double`.
 ///
 /// An object that several others refer to is decoded once, and the lists, maps and texts made of it share their memory.
 /// A circle of references is kept where it leads through a `KeyedObject`; others cannot be held by values and throw.

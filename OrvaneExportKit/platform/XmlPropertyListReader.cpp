@@ -2,6 +2,7 @@
 
 #include <OrvaneExportKit/platform/PropertyListError.h>
 #include <OrvaneExportKit/platform/PropertyListValues.h>
+#include <OrvaneExportKit/platform/Utf8.h>
 #include <OrvaneExportKit/platform/XmlScalars.h>
 #include <OrvaneExportKit/platform/XmlScanner.h>
 #include <OrvaneExportKit/platform/XmlText.h>
@@ -163,7 +164,7 @@ QVariant Reader::readScalar(const XmlTag &tag, const Parse &parse, const QString
 QString Reader::readText(const XmlTag &tag)
 {
     const std::string_view content = m_scanner.readContent(tag);
-    return QString::fromUtf8(content.data(), static_cast<qsizetype>(content.size()));
+    return stringFromUtf8({content.data(), static_cast<qsizetype>(content.size())}).value_or(QString());
 }
 
 void Reader::requireNesting(const XmlTag &tag, int containers) const

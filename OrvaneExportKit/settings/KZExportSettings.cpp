@@ -1,9 +1,12 @@
 #include <OrvaneExportKit/settings/KZExportSettings.h>
 
 #include <OrvaneExportKit/controls/ValueTransformers.h>
+#include <OrvaneExportKit/platform/ArchiveKinds.h>
 #include <OrvaneExportKit/platform/Archiver.h>
 #include <OrvaneExportKit/platform/Bundle.h>
 #include <OrvaneExportKit/platform/ErrorAlert.h>
+#include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/platform/KeyedUnarchiver.h>
 #include <OrvaneExportKit/platform/PropertyList.h>
 #include <OrvaneExportKit/platform/ScalarValues.h>
 #include <OrvaneExportKit/platform/UserDefaults.h>
@@ -88,6 +91,40 @@ void warnOfMissingOperation(const QMetaObject *metaObject)
     qWarning("%s names a bundle, but %s::quotationStrings() does not read the table there: write "
              "ORVANE_SETTINGS_BUNDLE(%s, ...) in the place of Q_CLASSINFO.",
              name, name, name);
+}
+
+/// What an archive among the settings holds, or why it holds nothing.
+struct Unarchived {
+    QVariant object;
+    QString error; ///< one sentence; empty when there is an object
+};
+
+Unarchived unarchivedByKeys(const QByteArray &archive)
+{
+    try {
+        QVariant object = platform::KeyedUnarchiver::unarchiveObjectWithData(archive);
+        return object.isValid() ? Unarchived{object, {}}
+                                : Unarchived{{}, QStringLiteral("the keyed archive holds no object")};
+    } catch (const platform::ArchiveException &exception) {
+        return {{}, QString::fromUtf8(exception.what())};
+    }
+}
+
+Unarchived unarchived(const QVariant &stored)
+{
+    if (!stored.isValid()) {
+        return {{}, QStringLiteral("there is no value under this key")};
+    }
+    if (stored.metaType() != QMetaType::fromType<QByteArray>()) {
+        return {{}, QStringLiteral("the value is no archive, but of type %1").arg(QLatin1String(stored.typeName()))};
+    }
+    const QByteArray archive = stored.toByteArray();
+    if (!platform::isNonKeyedArchive(archive)) {
+        return unarchivedByKeys(archive);
+    }
+    Unarchived result;
+    result.object = platform::Unarchiver::unarchiveObjectWithData(archive, result.error);
+    return result;
 }
 
 void requireValue(const char *operation, const QVariant &value, const QString &key)
@@ -189,7 +226,13 @@ QVariant KZExportSettings::objectForKey(const QString &key) const
 
 QVariant KZExportSettings::nonPropertyListObjectForKey(const QString &key) const
 {
-    return platform::Unarchiver::unarchiveObjectWithData(m_settingsDict.value(key).toByteArray());
+    return unarchived(m_settingsDict.value(key)).object;
+}
+
+QString KZExportSettings::nonPropertyListObjectErrorForKey(const QString &key) const
+{
+    const QString error = unarchived(m_settingsDict.value(key)).error;
+    return error.isEmpty() ? error : key + QLatin1String(": ") + error;
 }
 
 float KZExportSettings::floatForKey(const QString &key) const

@@ -114,9 +114,15 @@ public:
     QVariant valueForKey(const QString &key) const override;
     QVariant objectForKey(const QString &key) const; ///< the same
 
-    /// The value that `setNonPropertyListObject` stored. An invalid `QVariant` when the key is missing or holds
-    /// something else than an archive.
+    /// The value that `setNonPropertyListObject` stored, or the root object of a keyed archive that another program
+    /// stored, as `platform::KeyedUnarchiver` decodes it. An invalid `QVariant` when the key is missing or holds
+    /// something else.
     QVariant nonPropertyListObjectForKey(const QString &key) const;
+
+    /// Why `nonPropertyListObjectForKey` answers nothing, in a sentence; empty when it answers an object.
+    ///
+    ///     settings.nonPropertyListObjectErrorForKey(u"font"_s);   // "font: there is no value under this key"
+    QString nonPropertyListObjectErrorForKey(const QString &key) const;
 
     /// The scalar readers convert what is stored as `platform::floatValue` and its neighbours do: numbers as a C cast,
     /// strings by their leading decimal text, a missing key to zero. They throw

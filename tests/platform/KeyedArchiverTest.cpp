@@ -233,6 +233,8 @@ TEST(KeyedArchiver, RestoresEveryType)
         QVariant::fromValue(platform::OrderedObjectSet{{u"b"_s, u"a"_s}}),
         QVariant::fromValue(platform::CountedObjectSet{{u"b"_s, u"a"_s}, {2, 1}}),
         QUrl(u"https://example.org/a%20b?c=d#e"_s),
+        QVariant::fromValue(platform::ArchivedUrl{u"item://F1B2C3D4/a b"_s, {}}),
+        QVariant::fromValue(platform::ArchivedUrl{u"../C"_s, QUrl(u"https://example.org/a/b/"_s)}),
         QUuid(u"00112233-4455-6677-8899-aabbccddeeff"_s),
         QPointF(0.1, -1e20),
         QSizeF(595.25, 842),
@@ -269,6 +271,21 @@ TEST(KeyedArchiver, WritesOtherTypesAsThoseThatAreRead)
     EXPECT_STREQ(restored(QVariant::fromValue<qint8>(-1)).typeName(), "qlonglong");
     EXPECT_EQ(restored(QVariant::fromValue<quint16>(65535)), QVariant(qint64{65535}));
     EXPECT_STREQ(restored(1.5F).typeName(), "double");
+    EXPECT_EQ(restored(QPoint(1, -2)), QVariant(QPointF(1, -2)));
+    EXPECT_EQ(restored(QSize(3, 4)), QVariant(QSizeF(3, 4)));
+    EXPECT_EQ(restored(QRect(1, 2, 3, 4)), QVariant(QRectF(1, 2, 3, 4)));
+    EXPECT_EQ(restored(QVariant::fromValue(QMargins(1, 2, 3, 4))), QVariant::fromValue(QMarginsF(1, 2, 3, 4)));
+    EXPECT_EQ(restored(QDate(2024, 2, 29)), QVariant(QDateTime(QDate(2024, 2, 29), QTime(0, 0), Qt::UTC)));
+    EXPECT_EQ(restored(QVariant::fromValue(QList<int>{1, -2})), QVariant(QVariantList{qint64{1}, qint64{-2}}));
+    EXPECT_EQ(restored(QVariant::fromValue(QList<quint64>{1})), QVariant(QVariantList{qint64{1}}));
+    EXPECT_EQ(restored(QVariant::fromValue(QList<double>{0.5})), QVariant(QVariantList{0.5}));
+    EXPECT_EQ(restored(QVariant::fromValue(QList<QByteArray>{"a"_ba})), QVariant(QVariantList{"a"_ba}));
+    EXPECT_EQ(restored(QVariant::fromValue(QList<QList<int>>{{1}, {}})),
+              QVariant(QVariantList{QVariantList{qint64{1}}, QVariantList()}));
+    EXPECT_EQ(restored(QVariant::fromValue(QMap<QString, QString>{{u"a"_s, u"b"_s}})),
+              QVariant(QVariantMap{{u"a"_s, u"b"_s}}));
+    EXPECT_EQ(restored(QVariant::fromValue(QHash<QString, int>{{u"a"_s, 1}})),
+              QVariant(QVariantMap{{u"a"_s, qint64{1}}}));
 }
 
 TEST(KeyedArchiver, SharesEqualTextsAfterReading)
@@ -325,6 +342,9 @@ TEST(KeyedArchiver, RefusesWhatCannotBeArchived)
     EXPECT_EQ(complaint(QVariantMap{{u"a"_s, QVariant()}}),
               "encodeObject: a list, a dictionary or a set holds nothing in the place of a value");
     EXPECT_EQ(complaint(QDateTime()), "encodeObject: a date is not valid");
+    EXPECT_EQ(complaint(QDate()), "encodeObject: a date is not valid");
+    EXPECT_EQ(complaint(QVariant::fromValue(QMap<int, QString>{{1, u"a"_s}})),
+              "encodeObject: a value of type QMap<int,QString> cannot be archived");
     EXPECT_EQ(complaint(QVariant::fromValue(platform::ObjectDictionary{{1}, {}})),
               "encodeObject: a dictionary has 1 keys and 0 objects");
     EXPECT_EQ(complaint(QVariant::fromValue(platform::CountedObjectSet{{1}, {}})),

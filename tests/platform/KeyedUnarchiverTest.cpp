@@ -19,6 +19,7 @@
 namespace {
 
 using namespace Qt::Literals::StringLiterals;
+using platform::ArchivedUrl;
 using platform::AttributedString;
 using platform::KeyedObject;
 using platform::KeyedUnarchiver;
@@ -93,9 +94,24 @@ const Case strings[] = {
     {"StringObject", {object(u"NSString"_s, {{u"NS.string"_s, u"a < b & ä"_s}})}, u"a < b & ä"_s},
     {"StringObjectMayBeTheNameOfNothing", {object(u"NSString"_s, {{u"NS.string"_s, u"$null"_s}})}, u"$null"_s},
     {"StringAsBytes", {object(u"NSString"_s, {{u"NS.bytes"_s, "gr\xC3\xBC\xC3\x9F"_ba}})}, u"grüß"_s},
+    {"StringAsBytesThatBeginWithAByteOrderMark",
+     {object(u"NSString"_s, {{u"NS.bytes"_s, "\xEF\xBB\xBF"
+                                             "a"_ba}})},
+     u"\uFEFFa"_s},
     {"MutableString", {object(u"NSMutableString"_s, {{u"NS.string"_s, u"text"_s}})}, u"text"_s},
 };
 INSTANTIATE_TEST_SUITE_P(Strings, KeyedUnarchiverValue, testing::ValuesIn(strings), caseName);
+
+/// A decimal of the words of a mantissa, the least significant byte first, and an exponent.
+QVariantMap decimal(const QByteArray &words, int exponent, bool isNegative = false)
+{
+    return object(u"NSDecimalNumber"_s, {{u"NS.mantissa"_s, words + QByteArray(16 - words.size(), '\0')},
+                                         {u"NS.mantissa.bo"_s, qint64{1}},
+                                         {u"NS.length"_s, qint64{words.size() / 2}},
+                                         {u"NS.exponent"_s, qint64{exponent}},
+                                         {u"NS.negative"_s, isNegative},
+                                         {u"NS.compact"_s, true}});
+}
 
 const Case numbers[] = {
     {"PlainInteger", {qint64{42}}, qint64{42}},
@@ -110,6 +126,19 @@ const Case numbers[] = {
     {"NumberObjectWithReal", {object(u"NSNumber"_s, {{u"NS.dblval"_s, 2.5}})}, 2.5},
     {"NumberObjectWithRealAsInteger", {object(u"NSNumber"_s, {{u"NS.dblval"_s, qint64{2}}})}, 2.0},
     {"NumberObjectWithNumber", {object(u"NSNumber"_s, {{u"NS.number"_s, 1.5}})}, 1.5},
+    {"Decimal", {decimal("\x39\x30"_ba, -2)}, 123.45},
+    {"NegativeDecimal", {decimal("\x0F\x00"_ba, -1, true)}, -1.5},
+    {"DecimalThatIsAnInteger", {decimal("\x0C\x00"_ba, 2)}, qint64{1200}},
+    {"DecimalWithAFractionOfZeros", {decimal("\xE8\x03"_ba, -2)}, qint64{10}},
+    {"DecimalOf64Bits", {decimal(QByteArray(8, '\xFF'), 0)}, quint64{18446744073709551615U}},
+    {"DecimalOf128Bits", {decimal(QByteArray(16, '\xFF'), 0)}, 3.4028236692093846e38},
+    {"DecimalOfABigEndianMachine",
+     {object(u"NSDecimalNumber"_s, {{u"NS.exponent"_s, qint64{-2}},
+                                    {u"NS.length"_s, qint64{1}},
+                                    {u"NS.mantissa.bo"_s, qint64{2}},
+                                    {u"NS.mantissa"_s, "\x30\x39"_ba + QByteArray(14, '\0')}})},
+     123.45},
+    {"DecimalZero", {object(u"NSDecimalNumber"_s, {{u"NS.length"_s, qint64{0}}})}, qint64{0}},
     {"Null", {object(u"NSNull"_s)}, QVariant::fromValue(nullptr)},
 };
 INSTANTIATE_TEST_SUITE_P(Numbers, KeyedUnarchiverValue, testing::ValuesIn(numbers), caseName);
@@ -118,6 +147,7 @@ const Case scalars[] = {
     {"PlainData", {"\x00\xFF"_ba}, "\x00\xFF"_ba},
     {"DataObject", {object(u"NSData"_s, {{u"NS.data"_s, "abc"_ba}})}, "abc"_ba},
     {"MutableData", {object(u"NSMutableData"_s, {{u"NS.data"_s, "abc"_ba}})}, "abc"_ba},
+    {"MutableDataAsAReference", {object(u"NSMutableData"_s, {{u"NS.data"_s, uid(2)}}), "abc"_ba}, "abc"_ba},
     {"DataOfOtherCoders", {object(u"NSData"_s, {{u"NS.bytes"_s, "abc"_ba}})}, "abc"_ba},
     {"DataWithoutField", {object(u"NSData"_s)}, QByteArray()},
     {"PlainDate", {date(1000)}, date(1000)},
@@ -135,7 +165,10 @@ const Case scalars[] = {
      {object(u"NSURL"_s, {{u"NS.base"_s, uid(2)}, {u"NS.relative"_s, uid(3)}}),
       object(u"NSURL"_s, {{u"NS.base"_s, uid(0)}, {u"NS.relative"_s, uid(4)}}), u"../c"_s,
       u"https://example.org/a/b/"_s},
-     QUrl(u"https://example.org/a/c"_s)},
+     QVariant::fromValue(ArchivedUrl{u"../c"_s, QUrl(u"https://example.org/a/b/"_s)})},
+    {"UrlThatQtSpellsOtherwise",
+     {object(u"NSURL"_s, {{u"NS.base"_s, uid(0)}, {u"NS.relative"_s, uid(2)}}), u"item://F1B2C3D4/a b"_s},
+     QVariant::fromValue(ArchivedUrl{u"item://F1B2C3D4/a b"_s, {}})},
     {"Uuid",
      {object(u"NSUUID"_s, {{u"NS.uuidbytes"_s, QByteArray::fromHex("00112233445566778899aabbccddeeff")}})},
      QUuid(u"00112233-4455-6677-8899-aabbccddeeff"_s)},
@@ -190,6 +223,16 @@ const Case collections[] = {
     {"MutableSetWithNumberedElements",
      {numbered(u"NSMutableSet"_s, {u"NS.object."_s}, {2, 3}), u"a"_s, u"b"_s},
      QVariant::fromValue(platform::ObjectSet{ab})},
+    {"SetWithEqualElements",
+     {object(u"NSSet"_s, {{u"NS.objects"_s, uids({2, 3, 2, 4, 5, 6})}}), u"a"_s, u"b"_s, u"a"_s,
+      object(u"NSArray"_s, {{u"NS.objects"_s, uids({2})}}), object(u"NSArray"_s, {{u"NS.objects"_s, uids({4})}})},
+     QVariant::fromValue(platform::ObjectSet{{u"a"_s, u"b"_s, QVariantList{u"a"_s}}})},
+    {"SetWithNumbersOfDifferentTypes",
+     {object(u"NSSet"_s, {{u"NS.objects"_s, uids({2, 3, 4})}}), qint64{1}, 1.0, true},
+     QVariant::fromValue(platform::ObjectSet{{qint64{1}, 1.0, true}})},
+    {"OrderedSetWithEqualElements",
+     {numbered(u"NSOrderedSet"_s, {u"NS.object."_s}, {3, 2, 4}), u"b"_s, u"a"_s, u"b"_s},
+     QVariant::fromValue(platform::OrderedObjectSet{{u"a"_s, u"b"_s}})},
     {"OrderedSet",
      {numbered(u"NSOrderedSet"_s, {u"NS.object."_s}, {3, 2}), u"b"_s, u"a"_s},
      QVariant::fromValue(platform::OrderedObjectSet{ab})},
@@ -205,6 +248,20 @@ const Case collections[] = {
                                  {u"NS.count1"_s, qint64{1}}}),
       u"a"_s, u"b"_s},
      QVariant::fromValue(platform::CountedObjectSet{ab, {3, 1}})},
+    {"CountedSetWithoutCounts",
+     {object(u"NSCountedSet"_s, {{u"NS.objects"_s, uids({2, 3, 2})}}), u"a"_s, u"b"_s},
+     QVariant::fromValue(platform::CountedObjectSet{ab, {2, 1}})},
+    {"CountedSetWithNumberedElementsWithoutCounts",
+     {numbered(u"NSCountedSet"_s, {u"NS.object"_s}, {2, 3}), u"a"_s, u"b"_s},
+     QVariant::fromValue(platform::CountedObjectSet{ab, {1, 1}})},
+    {"CountedSetWithEqualElements",
+     {object(u"NSCountedSet"_s, {{u"NS.count"_s, qint64{2}},
+                                 {u"NS.object0"_s, uid(2)},
+                                 {u"NS.count0"_s, qint64{3}},
+                                 {u"NS.object1"_s, uid(3)},
+                                 {u"NS.count1"_s, qint64{4}}}),
+      u"a"_s, u"a"_s},
+     QVariant::fromValue(platform::CountedObjectSet{{u"a"_s}, {7}})},
     {"EmptyCountedSet",
      {object(u"NSCountedSet"_s, {{u"NS.count"_s, qint64{0}}})},
      QVariant::fromValue(platform::CountedObjectSet{})},
@@ -221,6 +278,10 @@ const Case collections[] = {
     {"DictionaryWithKeysThatAreNoStrings",
      {object(u"NSDictionary"_s, {{u"NS.keys"_s, uids({2, 3})}, {u"NS.objects"_s, uids({3, 3})}}), qint64{1}, u"a"_s},
      QVariant::fromValue(platform::ObjectDictionary{{qint64{1}, u"a"_s}, {u"a"_s, u"a"_s}})},
+    {"DictionaryWithEqualKeysThatAreNoStrings",
+     {object(u"NSDictionary"_s, {{u"NS.keys"_s, uids({2, 3, 4})}, {u"NS.objects"_s, uids({3, 3, 5})}}), qint64{1},
+      u"a"_s, qint64{1}, u"b"_s},
+     QVariant::fromValue(platform::ObjectDictionary{{qint64{1}, u"a"_s}, {u"b"_s, u"a"_s}})},
     {"EmptyIndexSet", {object(u"NSIndexSet"_s)}, QVariant::fromValue(platform::RangeList{})},
     {"IndexSetOfOneRange",
      {object(u"NSIndexSet"_s,
@@ -313,6 +374,56 @@ const Case texts[] = {
      QVariant::fromValue(textWithRuns(u"\U0001F600x"_s, {{2, u"a"_s}, {1, u"b"_s}}))},
 };
 INSTANTIATE_TEST_SUITE_P(Texts, KeyedUnarchiverValue, testing::ValuesIn(texts), caseName);
+
+TEST(KeyedUnarchiver, AnswersTheUrlOfEverySpelling)
+{
+    const QVariant spelled = QVariant::fromValue(ArchivedUrl{u"item://F1B2C3D4"_s, {}});
+    EXPECT_EQ(spelled.toUrl(), QUrl(u"item://f1b2c3d4"_s));
+    EXPECT_EQ(spelled.toString(), u"item://F1B2C3D4"_s);
+    const QVariant relative = QVariant::fromValue(ArchivedUrl{u"../c"_s, QUrl(u"https://example.org/a/b/"_s)});
+    EXPECT_EQ(relative.toUrl(), QUrl(u"https://example.org/a/c"_s));
+    EXPECT_EQ(relative.toString(), u"https://example.org/a/c"_s);
+}
+
+TEST(KeyedUnarchiver, KeepsWhatNoValueOfQtCanHoldAsAnObjectInsideItsText)
+{
+    const auto url = [](const QString &string) {
+        return QVariantList{object(u"NSURL"_s, {{u"NS.base"_s, uid(0)}, {u"NS.relative"_s, uid(7)}}), string};
+    };
+    const auto withBase = QVariantList{object(u"NSURL"_s, {{u"NS.base"_s, uid(8)}, {u"NS.relative"_s, uid(7)}}), u"b"_s,
+                                       object(u"NSURL"_s, {{u"NS.relative"_s, uid(9)}}), u"http://a..b/"_s};
+    for (const QVariantList &odd :
+         {url(u"http://example.com:99999/"_s), url(u"http://a..b/"_s), url(u"http://-bad-.com/"_s),
+          url(u"http://[bad"_s), withBase, QVariantList{object(u"NSDate"_s, {{u"NS.time"_s, qQNaN()}})},
+          QVariantList{object(u"NSDate"_s, {{u"NS.time"_s, -qInf()}})}}) {
+        const QVariantList objects{
+            object(u"NSAttributedString"_s, {{u"NSString"_s, uid(2)}, {u"NSAttributes"_s, uid(3)}}), u"text"_s,
+            styleDictionary(4, 6), u"style"_s, u"unused"_s};
+        const QVariant root = decoded(keyedArchive(objects + odd));
+        const auto text = root.value<AttributedString>();
+        EXPECT_EQ(text.string(), u"text");
+        const QVariantMap fields = odd.first().toMap();
+        const auto kept = text.attributesAtIndex(0).value(u"style"_s).value<KeyedObject>();
+        EXPECT_EQ(kept.className(), fields.value(u"$class"_s));
+        EXPECT_EQ(kept.keys().size(), fields.size() - 1);
+        if (fields.contains(u"NS.relative"_s)) {
+            EXPECT_EQ(kept.value(u"NS.relative"_s), odd[1]);
+        }
+    }
+}
+
+TEST(KeyedUnarchiver, FindsEqualElementsOfALargeSetAtOnce)
+{
+    constexpr quint32 count = 50'000;
+    QVariantList references;
+    QVariantList objects;
+    for (quint32 i = 0; i < count; ++i) {
+        references.append(uid(2 + 2 * i));
+        objects << object(u"NSArray"_s, {{u"NS.objects"_s, uids({3 + 2 * i})}}) << qint64{i % 100};
+    }
+    const QVariantList all = QVariantList{object(u"NSSet"_s, {{u"NS.objects"_s, references}})} + objects;
+    EXPECT_EQ(decoded(keyedArchive(all)).value<platform::ObjectSet>().elements.size(), 100);
+}
 
 TEST(KeyedUnarchiver, ReadsAnArchiveAsAnotherProgramWroteIt)
 {

@@ -74,6 +74,12 @@ const Case strings[] = {
     {"CarriageReturnsAsTheyAre", "<string>a\rb\r\nc\n</string>", text(u"a\rb\r\nc\n")},
     {"Utf8", "<string>ä€\xF0\x9F\x98\x80</string>", text(u"ä€\U0001F600")},
     {"Noncharacters", "<string>\xEF\xBF\xBE\xEF\xBF\xBF</string>", text(u"\uFFFE\uFFFF")},
+    {"ByteOrderMarkAtItsStart",
+     "<string>\xEF\xBB\xBF\xEF\xBB\xBF"
+     "a</string>",
+     text(u"\uFEFF\uFEFFa")},
+    {"ByteOrderMarkAsAReference", "<string>&#xFEFF;a</string>", text(u"\uFEFFa")},
+    {"ByteOrderMarkAlone", "<string>\xEF\xBB\xBF</string>", text(u"\uFEFF")},
     {"QuotesAndGreaterThan", "<string>\"'>]]></string>", text(u"\"'>]]>")},
     {"Attributes", "<string a=\"x>y\" b='</string>/'>c</string >", text(u"c")},
     {"EmptyElementWithAttributes", "<string a=\"/\" b='c'/>", text(u"")},

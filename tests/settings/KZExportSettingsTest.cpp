@@ -1,6 +1,7 @@
 #include <OrvaneExportKit/settings/KZExportSettings.h>
 
 #include <OrvaneExportKit/controls/ValueTransformers.h>
+#include <OrvaneExportKit/platform/KeyedArchiver.h>
 #include <OrvaneExportKit/platform/PropertyList.h>
 #include <OrvaneExportKit/platform/ValueTransformer.h>
 
@@ -523,6 +524,34 @@ TEST_F(ExportSettings, KeepValuesThatAreNoPropertyListValuesThroughSaving)
     EXPECT_EQ(later.nonPropertyListObjectForKey(u"paper"_s), QSize(210, 297));
     later.setObject(QByteArray("no archive"), u"paper"_s);
     EXPECT_FALSE(later.nonPropertyListObjectForKey(u"paper"_s).isValid());
+}
+
+TEST_F(ExportSettings, ReadKeyedArchivesThatAnotherProgramStored)
+{
+    for (const auto format : {platform::PropertyList::Format::Binary, platform::PropertyList::Format::Xml}) {
+        settings.setObject(platform::KeyedArchiver::archivedDataWithRootObject(u"Chapter"_s, format), u"a"_s);
+        EXPECT_EQ(settings.nonPropertyListObjectForKey(u"a"_s), QVariant(u"Chapter"_s));
+        EXPECT_EQ(settings.nonPropertyListObjectErrorForKey(u"a"_s), QString());
+    }
+}
+
+TEST_F(ExportSettings, SayWhyAnArchiveHoldsNothing)
+{
+    EXPECT_EQ(settings.nonPropertyListObjectErrorForKey(u"a"_s), u"a: there is no value under this key"_s);
+    settings.setInteger(1, u"a"_s);
+    EXPECT_EQ(settings.nonPropertyListObjectErrorForKey(u"a"_s), u"a: the value is no archive, but of type int"_s);
+    settings.setObject(QByteArray("\x04\x0Bstreamtyped\x81", 14), u"a"_s);
+    EXPECT_EQ(
+        settings.nonPropertyListObjectErrorForKey(u"a"_s),
+        u"a: unarchiveObjectWithData: the archive: is a typedstream, an archive without keys that another program "
+        u"wrote, which is not read here"_s);
+    settings.setObject(platform::KeyedArchiver::archivedDataWithRootObject(QVariant()), u"a"_s);
+    EXPECT_EQ(settings.nonPropertyListObjectErrorForKey(u"a"_s), u"a: the keyed archive holds no object"_s);
+    settings.setNonPropertyListObject(QSize(210, 297), u"a"_s);
+    EXPECT_EQ(settings.nonPropertyListObjectErrorForKey(u"a"_s), QString());
+    const QByteArray archive = settings.objectForKey(u"a"_s).toByteArray();
+    settings.setObject(archive.chopped(1), u"a"_s);
+    EXPECT_EQ(settings.nonPropertyListObjectErrorForKey(u"a"_s), u"a: Unarchiver: the data is not a whole archive"_s);
 }
 
 // Keys
