@@ -76,9 +76,7 @@ void registerClass()
          [](const QVariant &field, platform::Coder &coder) {
              field.value<KZFontNameTextField *>()->encodeWithCoder(coder);
          },
-         [](platform::Coder &coder) {
-             return QVariant::fromValue(KZFontNameTextField::initWithCoder(coder).release());
-         }});
+         {}});
 }
 Q_COREAPP_STARTUP_FUNCTION(registerClass)
 

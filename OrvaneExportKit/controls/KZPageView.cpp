@@ -93,9 +93,7 @@ void registerClass()
         {{u"KZPageView"_s, u"NSView"_s, u"NSResponder"_s, u"NSObject"_s},
          QMetaType::fromType<KZPageView *>(),
          [](const QVariant &view, platform::Coder &coder) { view.value<KZPageView *>()->encodeWithCoder(coder); },
-         [](platform::Coder &coder) {
-             return QVariant::fromValue(KZPageView::initWithCoder(coder).release());
-         }});
+         {}});
     QAccessible::installFactory(accessiblePageView);
 }
 Q_COREAPP_STARTUP_FUNCTION(registerClass)

@@ -38,6 +38,10 @@ Class checked(ArchivedClass archivedClass)
         throw InvalidArgumentException("ArchivedClassRegistration: the type of " +
                                        archivedClass.classNames.first().toStdString() + " is not valid");
     }
+    if (archivedClass.decode && archivedClass.type.flags().testFlag(QMetaType::IsPointer)) {
+        throw InvalidArgumentException("ArchivedClassRegistration: " + archivedClass.classNames.first().toStdString() +
+                                       " is decoded as a pointer, to an object that nobody would own");
+    }
     return std::make_shared<const ArchivedClass>(std::move(archivedClass));
 }
 

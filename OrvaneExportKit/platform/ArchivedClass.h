@@ -17,14 +17,17 @@ struct ArchivedClass {
     /// The name of the class in archives, then its superclasses, nearest first.
     QStringList classNames;
 
-    /// The C++ type of the values. A pointer type is fine; the archive does not keep what it points to alive.
+    /// The C++ type of the values. For a class that is only written, a pointer type is fine; the archive does not keep
+    /// what it points to alive.
     QMetaType type;
 
     /// Writes the fields of a value of that type; empty for a class that is only read.
     std::function<void(const QVariant &object, Coder &coder)> encode;
 
     /// Makes a value from its fields; empty for a class that is only written. An invalid value leaves the object a
-    /// `KeyedObject`. Whoever unarchives owns what a pointer that comes from here points to.
+    /// `KeyedObject`, with all its fields. Values own what they hold: no pointers, but a `std::shared_ptr` will do. An
+    /// object that is more than a value, such as a view, is left a `KeyedObject`, of which a program that wants it
+    /// makes it (`KeyedObject::decodeFields`, `windowing::unarchivedView`).
     std::function<QVariant(Coder &coder)> decode;
 };
 
@@ -42,7 +45,8 @@ struct ArchivedClass {
 /// know by themselves. An object that refers to itself through its fields cannot be made by a registered class; reading
 /// it throws `ArchiveException`. For use on the application's main thread.
 ///
-/// Throws `InvalidArgumentException` when there is no class name, an empty one, or no valid type.
+/// Throws `InvalidArgumentException` when there is no class name, an empty one, no valid type, or a pointer type with a
+/// decoder.
 class ORVANE_CORE_EXPORT ArchivedClassRegistration
 {
 public:

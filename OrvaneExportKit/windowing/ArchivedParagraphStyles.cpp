@@ -1,11 +1,12 @@
 #include <OrvaneExportKit/platform/ArchivedClass.h>
 #include <OrvaneExportKit/platform/Coder.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/platform/KeyedObject.h>
 #include <OrvaneExportKit/windowing/ParagraphStyle.h>
 
 #include <QtGui/QGuiApplication>
 
-#include <string>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -34,18 +35,27 @@ constexpr RealField realFields[] = {
     {QLatin1StringView("NSHeaderLevel"), &ParagraphStyle::headerLevel},
 };
 
-/// The alignment in a field, natural when it is missing.
-TextAlignment decodeAlignment(platform::Coder &coder, const char *className, const QString &key)
+/// The alignment in a field, natural when it is missing; nothing for a number that is none.
+std::optional<TextAlignment> decodeAlignment(platform::Coder &coder, const QString &key)
 {
     if (!coder.containsValueForKey(key)) {
         return TextAlignment::Natural;
     }
     const qint64 alignment = coder.decodeInt64ForKey(key);
     if (alignment < qint64(TextAlignment::Left) || alignment > qint64(TextAlignment::Natural)) {
-        throw platform::ArchiveException(std::string(className) + ": `" + key.toStdString() + "` is " +
-                                         std::to_string(alignment) + ", which is no alignment");
+        return std::nullopt;
     }
     return TextAlignment(alignment);
+}
+
+/// Where lines begin; nothing for a number that says nothing.
+std::optional<WritingDirection> decodeDirection(platform::Coder &coder)
+{
+    const qint64 direction = coder.decodeInt64ForKey(u"NSWritingDirection"_s) - 1;
+    if (direction < qint64(WritingDirection::Natural) || direction > qint64(WritingDirection::RightToLeft)) {
+        return std::nullopt;
+    }
+    return WritingDirection(direction);
 }
 
 /// The list in a field, empty when it is missing.
@@ -58,11 +68,26 @@ QVariantList decodeList(platform::Coder &coder, const QString &key)
     return list.toList();
 }
 
-QList<TextTab> tabStops(const QVariantList &objects)
+bool isTab(const QVariant &object)
+{
+    return object.metaType() == QMetaType::fromType<TextTab>();
+}
+
+/// A tab that is kept as an object because no `TextTab` can hold it.
+bool isOddTab(const QVariant &object)
+{
+    return object.value<platform::KeyedObject>().className() == u"NSTextTab";
+}
+
+/// The stops; nothing when one of them is odd.
+std::optional<QList<TextTab>> tabStops(const QVariantList &objects)
 {
     QList<TextTab> stops;
     for (const QVariant &object : objects) {
-        if (object.metaType() != QMetaType::fromType<TextTab>()) {
+        if (isOddTab(object)) {
+            return std::nullopt;
+        }
+        if (!isTab(object)) {
             throw platform::ArchiveException("NSParagraphStyle: `NSTabStops` holds something that is no tab");
         }
         stops.append(object.value<TextTab>());
@@ -73,22 +98,25 @@ QList<TextTab> tabStops(const QVariantList &objects)
 QVariant decodeParagraphStyle(platform::Coder &coder)
 {
     ParagraphStyle style;
-    style.alignment = decodeAlignment(coder, "NSParagraphStyle", u"NSAlignment"_s);
+    const std::optional<TextAlignment> alignment = decodeAlignment(coder, u"NSAlignment"_s);
+    const std::optional<WritingDirection> direction = decodeDirection(coder);
+    if (!alignment || !direction) {
+        return {};
+    }
+    style.alignment = *alignment;
+    style.writingDirection = *direction;
     for (const RealField &field : realFields) {
         style.*field.value = coder.decodeDoubleForKey(field.key);
     }
     if (coder.decodeObjectForKey(u"NSTabStops"_s).isValid()) {
         style.tabStops = tabStops(decodeList(coder, u"NSTabStops"_s));
+        if (!style.tabStops) {
+            return {};
+        }
     }
     style.lineBreakMode = coder.decodeInt64ForKey(u"NSLineBreakMode"_s);
     style.lineBreakStrategy = coder.decodeInt64ForKey(u"NSLineBreakStrategy"_s);
     style.allowsTighteningForTruncation = coder.decodeInt64ForKey(u"NSAllowsTighteningForTruncation"_s) != 0;
-    const qint64 direction = coder.decodeInt64ForKey(u"NSWritingDirection"_s) - 1;
-    if (direction < qint64(WritingDirection::Natural) || direction > qint64(WritingDirection::RightToLeft)) {
-        throw platform::ArchiveException("NSParagraphStyle: `NSWritingDirection` is " + std::to_string(direction + 1) +
-                                         ", which is no direction");
-    }
-    style.writingDirection = WritingDirection(direction);
     style.textBlocks = decodeList(coder, u"NSTextBlocks"_s);
     style.textLists = decodeList(coder, u"NSTextLists"_s);
     return QVariant::fromValue(style);
@@ -136,10 +164,41 @@ void encodeParagraphStyle(const QVariant &object, platform::Coder &coder)
     encodeUnlessEmpty(coder, style.textLists, u"NSTextLists"_s);
 }
 
+/// What `NSType` of a tab says in older archives.
+enum TabType : qint64 {
+    LeftTab,
+    RightTab,
+    CenterTab,
+    DecimalTab,
+};
+
+/// A decimal tab is a right one up to the decimal separator.
+std::optional<TextAlignment> alignmentOfType(qint64 type)
+{
+    switch (type) {
+    case LeftTab:
+        return TextAlignment::Left;
+    case RightTab:
+    case DecimalTab:
+        return TextAlignment::Right;
+    case CenterTab:
+        return TextAlignment::Center;
+    default:
+        return std::nullopt;
+    }
+}
+
 QVariant decodeTextTab(platform::Coder &coder)
 {
+    const bool hasOnlyType = coder.containsValueForKey(u"NSType"_s) && !coder.containsValueForKey(u"NSTextAlignment"_s);
+    const qint64 type = coder.decodeInt64ForKey(u"NSType"_s);
+    const auto alignment = hasOnlyType ? alignmentOfType(type) : decodeAlignment(coder, u"NSTextAlignment"_s);
+    const QVariant options = coder.decodeObjectForKey(u"NSTabOptions"_s);
+    if (!alignment || (options.isValid() && options.metaType() != QMetaType::fromType<QVariantMap>())) {
+        return {};
+    }
     return QVariant::fromValue(
-        TextTab{coder.decodeDoubleForKey(u"NSLocation"_s), decodeAlignment(coder, "NSTextTab", u"NSTextAlignment"_s)});
+        TextTab{coder.decodeDoubleForKey(u"NSLocation"_s), *alignment, type == DecimalTab, options.toMap()});
 }
 
 void encodeTextTab(const QVariant &object, platform::Coder &coder)
@@ -148,6 +207,10 @@ void encodeTextTab(const QVariant &object, platform::Coder &coder)
     coder.encodeDouble(tab.location, u"NSLocation"_s);
     if (tab.alignment != TextAlignment::Natural) {
         coder.encodeInt64(qint64(tab.alignment), u"NSTextAlignment"_s);
+    }
+    encodeNumberUnlessZero(coder, tab.isDecimal ? DecimalTab : LeftTab, u"NSType"_s);
+    if (!tab.options.isEmpty()) {
+        coder.encodeObject(tab.options, u"NSTabOptions"_s);
     }
 }
 

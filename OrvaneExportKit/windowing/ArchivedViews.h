@@ -2,6 +2,9 @@
 
 #include <OrvaneExportKit/ExportMacros.h>
 #include <OrvaneExportKit/platform/Coder.h>
+#include <OrvaneExportKit/platform/KeyedObject.h>
+
+#include <memory>
 
 class QWidget;
 
@@ -24,6 +27,25 @@ class QWidget;
 namespace windowing {
 
 class TextField;
+
+/// The view that a decoded object of a keyed archive stands for, as the `initWithCoder` of its class makes it; null for
+/// anything but an object of that class, or of one derived from it. The caller owns the view. Archives make no views by
+/// themselves: decoding leaves a `platform::KeyedObject`, so that a document cannot fill the program with widgets.
+///
+///     const QVariant object = KeyedUnarchiver::unarchiveObjectWithData(data);
+///     std::unique_ptr<KZPageView> view = windowing::unarchivedView<KZPageView>(object);
+///
+/// Throws what `initWithCoder` throws.
+template <typename View>
+std::unique_ptr<View> unarchivedView(const QVariant &object)
+{
+    const auto keyedObject = object.value<platform::KeyedObject>();
+    std::unique_ptr<View> view;
+    if (keyedObject.classNames().contains(QLatin1StringView(View::staticMetaObject.className()))) {
+        keyedObject.decodeFields([&view](platform::Coder &coder) { view = View::initWithCoder(coder); });
+    }
+    return view;
+}
 
 /// The frame and whether the view is hidden: `NSvFlags`, and `NSFrame` or, at the origin, `NSFrameSize`.
 ORVANE_KIT_EXPORT void encodeView(const QWidget &view, platform::Coder &coder);

@@ -14,7 +14,8 @@ namespace windowing {
 ///
 /// For use on the application's main thread.
 struct ORVANE_KIT_EXPORT Font {
-    /// The name that documents know the font by.
+    /// The name that documents know the font by. Archives keep a plain style, too, where the font was named with one
+    /// ("Menlo-Regular").
     static QString fontName(const QFont &font);
 
     /// The name that people know the font by: "DejaVu Sans Bold Oblique".

@@ -39,6 +39,8 @@ enum class WritingDirection {
 struct TextTab {
     double location = 0.0;                            ///< of the stop
     TextAlignment alignment = TextAlignment::Natural; ///< of the text at the stop
+    bool isDecimal = false; ///< whether numbers stand with their decimal separator at the stop
+    QVariantMap options;    ///< `NSTabOptions`, as archives hold them: what ends a column
 
     friend bool operator==(const TextTab &, const TextTab &) = default;
 };

@@ -5,6 +5,7 @@
 #include <OrvaneExportKit/platform/KeyedArchiver.h>
 #include <OrvaneExportKit/platform/KeyedUnarchiver.h>
 #include <OrvaneExportKit/platform/PropertyList.h>
+#include <OrvaneExportKit/windowing/ArchivedViews.h>
 #include <OrvaneExportKit/windowing/Frames.h>
 #include <tests/support/HandMadeArchive.h>
 #include <tests/support/Printers.h>
@@ -34,8 +35,7 @@ const QStringList cellClasses{u"NSTextFieldCell"_s, u"NSActionCell"_s, u"NSCell"
 
 std::unique_ptr<KZFontNameTextField> unarchived(const QByteArray &data)
 {
-    return std::unique_ptr<KZFontNameTextField>(
-        KeyedUnarchiver::unarchiveObjectWithData(data).value<KZFontNameTextField *>());
+    return windowing::unarchivedView<KZFontNameTextField>(KeyedUnarchiver::unarchiveObjectWithData(data));
 }
 
 std::unique_ptr<KZFontNameTextField> someField()

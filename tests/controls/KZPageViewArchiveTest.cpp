@@ -1,3 +1,4 @@
+#include <OrvaneExportKit/controls/KZFontNameTextField.h>
 #include <OrvaneExportKit/controls/KZPageView.h>
 
 #include <OrvaneExportKit/platform/Archiver.h>
@@ -5,10 +6,13 @@
 #include <OrvaneExportKit/platform/KeyedArchiver.h>
 #include <OrvaneExportKit/platform/KeyedUnarchiver.h>
 #include <OrvaneExportKit/platform/PropertyList.h>
+#include <OrvaneExportKit/windowing/ArchivedViews.h>
 #include <tests/support/HandMadeArchive.h>
 #include <tests/support/Printers.h>
 
 #include <gtest/gtest.h>
+
+#include <QtWidgets/QApplication>
 
 #include <cstring>
 #include <memory>
@@ -28,7 +32,7 @@ const QStringList pageViewClasses{u"KZPageView"_s, u"NSView"_s, u"NSResponder"_s
 
 std::unique_ptr<KZPageView> unarchived(const QByteArray &data)
 {
-    return std::unique_ptr<KZPageView>(KeyedUnarchiver::unarchiveObjectWithData(data).value<KZPageView *>());
+    return windowing::unarchivedView<KZPageView>(KeyedUnarchiver::unarchiveObjectWithData(data));
 }
 
 std::unique_ptr<KZPageView> someView()
@@ -143,6 +147,30 @@ TEST_P(PageViewArchive, IsReadAsOtherProgramsWriteIt)
     EXPECT_EQ(view->leftMargin(), 1.0F);
     EXPECT_EQ(view->rightMargin(), 0.0F); // missing
     EXPECT_EQ(view->bottomMargin(), 0.0F);
+}
+
+TEST_P(PageViewArchive, MakesNoViewUntilAProgramAsksForIt)
+{
+    const QByteArray data = archived(*someView());
+    const auto widgets = QApplication::allWidgets().size();
+    const QVariant object = KeyedUnarchiver::unarchiveObjectWithData(data);
+    EXPECT_EQ(object.value<platform::KeyedObject>().className(), u"KZPageView");
+    EXPECT_EQ(QApplication::allWidgets().size(), widgets);
+    {
+        const auto view = windowing::unarchivedView<KZPageView>(object);
+        EXPECT_EQ(QApplication::allWidgets().size(), widgets + 1);
+    }
+    EXPECT_EQ(QApplication::allWidgets().size(), widgets);
+    EXPECT_EQ(windowing::unarchivedView<KZPageView>(u"text"_s), nullptr);
+    EXPECT_EQ(windowing::unarchivedView<KZFontNameTextField>(object), nullptr);
+}
+
+TEST_P(PageViewArchive, IsWrittenAgainAsItStands)
+{
+    const QVariant object = KeyedUnarchiver::unarchiveObjectWithData(archived(*someView()));
+    const auto view = unarchived(KeyedArchiver::archivedDataWithRootObject(object, GetParam()));
+    ASSERT_NE(view, nullptr);
+    EXPECT_EQ(view->frame(), QRectF(20.5, 30.25, 120.0, 120.0));
 }
 
 TEST_P(PageViewArchive, IsRefusedWithAFrameThatIsNone)

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QtCore/QSet>
+
 #include <memory>
 
 namespace {
@@ -104,6 +106,36 @@ TEST(KeyedObject, IsEqualToTheSameObjectOfTheSameArchive)
     EXPECT_NE(notes[0], notes[1]);
     EXPECT_NE(notes[0], decoded(objects).toList()[0]);
     EXPECT_NE(notes[0].value<KeyedObject>(), KeyedObject());
+}
+
+TEST(KeyedObject, HasTheSameHashAsItsEquals)
+{
+    const QVariantList notes =
+        decoded({object(u"NSArray"_s, {{u"NS.objects"_s, uids({2, 3, 2})}}), object(u"Note"_s), object(u"Note"_s)})
+            .toList();
+    QSet<KeyedObject> distinct;
+    for (const QVariant &note : notes) {
+        distinct.insert(note.value<KeyedObject>());
+    }
+    EXPECT_EQ(distinct.size(), 2);
+    EXPECT_EQ(qHash(notes[0].value<KeyedObject>()), qHash(notes[2].value<KeyedObject>()));
+}
+
+TEST(KeyedObject, LetsAClassReadItsFields)
+{
+    const KeyedObject note = decodedObject(
+        {object(u"Note"_s, {{u"width"_s, 2.5}, {u"$$tag"_s, qint64{3}}, {u"title"_s, uid(2)}}), u"Title"_s});
+    int reads = 0;
+    note.decodeFields([&reads](Coder &coder) {
+        ++reads;
+        EXPECT_TRUE(coder.allowsKeyedCoding());
+        EXPECT_EQ(coder.decodeFloatForKey(u"width"_s), 2.5F);
+        EXPECT_EQ(coder.decodeInt64ForKey(u"$tag"_s), 3);
+        EXPECT_EQ(coder.decodeObjectForKey(u"title"_s), QVariant(u"Title"_s));
+        EXPECT_THROW(coder.decodeInt64ForKey(u"title"_s), platform::ArchiveException);
+    });
+    EXPECT_EQ(reads, 1);
+    EXPECT_THROW(KeyedObject().decodeFields([](Coder &) {}), platform::InvalidArgumentException);
 }
 
 TEST(KeyedObject, KeepsCircles)
@@ -232,6 +264,38 @@ TEST(ArchivedClass, NeedsANameAndAType)
     EXPECT_THROW(ArchivedClassRegistration({{u"Note"_s, u""_s}, QMetaType::fromType<QString>(), {}, {}}),
                  platform::InvalidArgumentException);
     EXPECT_THROW(ArchivedClassRegistration({{u"Note"_s}, QMetaType(), {}, {}}), platform::InvalidArgumentException);
+}
+
+TEST(ArchivedClass, MakesNoPointersThatNobodyOwns)
+{
+    const auto decode = [](Coder & /*coder*/) {
+        return QVariant();
+    };
+    EXPECT_THROW(ArchivedClassRegistration({{u"Note"_s}, QMetaType::fromType<QObject *>(), {}, decode}),
+                 platform::InvalidArgumentException);
+}
+
+/// What a program keeps behind a pointer that owns it.
+struct Page {
+    int number = 0;
+};
+
+TEST(ArchivedClass, MayMakeAnObjectThatItsValuesOwn)
+{
+    using Owned = std::shared_ptr<Page>;
+    const ArchivedClassRegistration registration({{u"Page"_s}, QMetaType::fromType<Owned>(), {}, [](Coder &coder) {
+                                                      const auto number = coder.decodeInt64ForKey(u"number"_s);
+                                                      return QVariant::fromValue(
+                                                          std::make_shared<Page>(Page{static_cast<int>(number)}));
+                                                  }});
+    std::weak_ptr<Page> page;
+    {
+        const QVariant value = decoded({object(u"Page"_s, {{u"number"_s, qint64{7}}})});
+        page = value.value<Owned>();
+        ASSERT_FALSE(page.expired());
+        EXPECT_EQ(page.lock()->number, 7);
+    }
+    EXPECT_TRUE(page.expired());
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/platform/KeyedArchiver.h>
+#include <OrvaneExportKit/platform/KeyedObject.h>
 #include <OrvaneExportKit/platform/KeyedUnarchiver.h>
 #include <OrvaneExportKit/windowing/Font.h>
 #include <tests/support/HandMadeArchive.h>
@@ -46,14 +47,25 @@ TEST(ArchivedFont, HasTheUsualSizeWhereItsArchiveGivesNone)
     EXPECT_EQ(font(u"Helvetica"_s, {{u"NSSize"_s, 0}}).value<QFont>().pointSizeF(), 12.0);
 }
 
-TEST(ArchivedFont, IsRefusedWithoutANameOrASize)
+TEST(ArchivedFont, StaysAnObjectWithoutANameOrASize)
 {
-    EXPECT_THROW(font({}, {{u"NSSize"_s, 12.0}}), ArchiveException);
-    EXPECT_THROW(font(u""_s, {{u"NSSize"_s, 12.0}}), ArchiveException);
-    EXPECT_THROW(font(12, {{u"NSSize"_s, 12.0}}), ArchiveException);
-    EXPECT_THROW(font(u"Helvetica"_s, {{u"NSSize"_s, -1.0}}), ArchiveException);
-    EXPECT_THROW(font(u"Helvetica"_s, {{u"NSSize"_s, std::numeric_limits<double>::infinity()}}), ArchiveException);
+    for (const QVariant &kept : {font({}, {{u"NSSize"_s, 12.0}}), font(u""_s, {{u"NSSize"_s, 12.0}}),
+                                 font(12, {{u"NSSize"_s, 12.0}}), font(u"Helvetica"_s, {{u"NSSize"_s, -1.0}}),
+                                 font(u"Helvetica"_s, {{u"NSSize"_s, std::numeric_limits<double>::infinity()}})}) {
+        EXPECT_EQ(kept.value<platform::KeyedObject>().className(), u"NSFont");
+    }
     EXPECT_THROW(font(u"Helvetica"_s, {{u"NSSize"_s, u"large"_s}}), ArchiveException);
+}
+
+TEST(ArchivedFont, IsWrittenWithTheNameThatItsArchiveGave)
+{
+    for (const QString &name : {u"Menlo-Regular"_s, u"Menlo"_s, u"Courier-Book"_s, u"DejaVuSans"_s,
+                                u"DejaVuSans-Book"_s, u"DejaVuSans-Bold"_s, u"DejaVuSans-BoldOblique"_s,
+                                u"Times-Roman"_s, u"TimesNewRomanPS-BoldItalicMT"_s, u".AppleSystemUIFont"_s}) {
+        const QVariant read = font(name, {{u"NSSize"_s, 12.0}});
+        const ArchiveContents archive(KeyedArchiver::archivedDataWithRootObject(read));
+        EXPECT_EQ(archive.object(archive.root().value(u"NSName"_s)), QVariant(name));
+    }
 }
 
 TEST(ArchivedFont, IsReadFromADescriptor)

@@ -96,8 +96,49 @@ TEST(ArchivedParagraphStyle, HasTabs)
     const QVariant stops = archive.add({u"NSArray"_s, u"NSObject"_s}, {{u"NS.objects"_s, tabs}});
     const QVariant root = archive.add(styleClasses, {{u"NSTabStops"_s, stops}});
     const auto style = KeyedUnarchiver::unarchiveObjectWithData(archive.data(root)).value<ParagraphStyle>();
-    const QList<TextTab> expected{{28.5, TextAlignment::Natural}, {56.0, TextAlignment::Right}};
+    const QList<TextTab> expected{{28.5, TextAlignment::Natural, false, {}}, {56.0, TextAlignment::Right, false, {}}};
     EXPECT_EQ(style.tabStops, std::optional(expected));
+}
+
+TextTab tabWith(QVariantMap fields)
+{
+    HandMadeArchive archive;
+    const QVariant root = archive.add({u"NSTextTab"_s, u"NSObject"_s}, std::move(fields));
+    const QVariant tab = KeyedUnarchiver::unarchiveObjectWithData(archive.data(root));
+    EXPECT_EQ(tab.metaType(), QMetaType::fromType<TextTab>());
+    return tab.value<TextTab>();
+}
+
+TEST(ArchivedTextTab, HasTheAlignmentOfItsOlderTypeWhereNothingElseSaysIt)
+{
+    const auto aligned = [](TextAlignment alignment, bool isDecimal = false) {
+        return TextTab{0.0, alignment, isDecimal, {}};
+    };
+    EXPECT_EQ(tabWith({{u"NSType"_s, 0}}), aligned(TextAlignment::Left));
+    EXPECT_EQ(tabWith({{u"NSType"_s, 1}}), aligned(TextAlignment::Right));
+    EXPECT_EQ(tabWith({{u"NSType"_s, 2}}), aligned(TextAlignment::Center));
+    EXPECT_EQ(tabWith({{u"NSType"_s, 3}}), aligned(TextAlignment::Right, true));
+    EXPECT_EQ(tabWith({{u"NSType"_s, 1}, {u"NSTextAlignment"_s, 2}}), aligned(TextAlignment::Center));
+    EXPECT_EQ(tabWith({{u"NSType"_s, 3}, {u"NSTextAlignment"_s, 1}}), aligned(TextAlignment::Right, true));
+}
+
+TEST(ArchivedTextTab, KeepsItsOptions)
+{
+    HandMadeArchive archive;
+    const QVariant characters = archive.add({u"NSCharacterSet"_s, u"NSObject"_s}, {{u"NSString"_s, u","_s}});
+    const QVariantList names{archive.add(u"NSTabColumnTerminatorsAttributeName"_s)};
+    const QVariant options = archive.add({u"NSDictionary"_s, u"NSObject"_s},
+                                         {{u"NS.keys"_s, names}, {u"NS.objects"_s, QVariantList{characters}}});
+    const QVariant root = archive.add({u"NSTextTab"_s, u"NSObject"_s},
+                                      {{u"NSLocation"_s, 56}, {u"NSType"_s, 3}, {u"NSTabOptions"_s, options}});
+    const QVariant tab = KeyedUnarchiver::unarchiveObjectWithData(archive.data(root));
+    const QVariant again = KeyedUnarchiver::unarchiveObjectWithData(KeyedArchiver::archivedDataWithRootObject(tab));
+    for (const auto &read : {tab.value<TextTab>(), again.value<TextTab>()}) {
+        EXPECT_TRUE(read.isDecimal);
+        EXPECT_EQ(read.alignment, TextAlignment::Right);
+        const auto kept = read.options.value(u"NSTabColumnTerminatorsAttributeName"_s).value<platform::KeyedObject>();
+        EXPECT_EQ(kept.value(u"NSString"_s), u","_s);
+    }
 }
 
 TEST(ArchivedParagraphStyle, KeepsBlocksAndListsAsTheyStand)
@@ -114,13 +155,30 @@ TEST(ArchivedParagraphStyle, KeepsBlocksAndListsAsTheyStand)
     EXPECT_EQ(again.value<ParagraphStyle>().textBlocks.first().value<platform::KeyedObject>().value(u"NSWidth"_s), 3);
 }
 
+TEST(ArchivedParagraphStyle, StaysAnObjectWithNumbersThatSayNothing)
+{
+    for (const auto &[key, value] : std::vector<std::pair<QString, QVariant>>{{u"NSAlignment"_s, 5},
+                                                                              {u"NSAlignment"_s, -1},
+                                                                              {u"NSWritingDirection"_s, 3},
+                                                                              {u"NSWritingDirection"_s, -1}}) {
+        HandMadeArchive archive;
+        const QVariant kept =
+            KeyedUnarchiver::unarchiveObjectWithData(archive.data(archive.add(styleClasses, {{key, value}})));
+        EXPECT_EQ(kept.value<platform::KeyedObject>().value(key), value);
+    }
+    for (const QVariantMap &odd : {QVariantMap{{u"NSTextAlignment"_s, 9}}, QVariantMap{{u"NSType"_s, 4}}}) {
+        HandMadeArchive archive;
+        const QVariant tab = archive.add({u"NSTextTab"_s, u"NSObject"_s}, odd);
+        const QVariant stops = archive.add({u"NSArray"_s, u"NSObject"_s}, {{u"NS.objects"_s, QVariantList{tab}}});
+        const QVariant root = archive.add(styleClasses, {{u"NSTabStops"_s, stops}});
+        const QVariant kept = KeyedUnarchiver::unarchiveObjectWithData(archive.data(root));
+        EXPECT_EQ(kept.value<platform::KeyedObject>().className(), u"NSParagraphStyle");
+    }
+}
+
 TEST(ArchivedParagraphStyle, IsRefusedWithWrongFields)
 {
     for (const auto &[key, value] : std::vector<std::pair<QString, QVariant>>{
-             {u"NSAlignment"_s, 5},
-             {u"NSAlignment"_s, -1},
-             {u"NSWritingDirection"_s, 3},
-             {u"NSWritingDirection"_s, -1},
              {u"NSLineSpacing"_s, u"wide"_s},
              {u"NSTabStops"_s, u"inline"_s},
          }) {
@@ -161,7 +219,8 @@ TEST(ArchivedParagraphStyle, ComesBackFromItsArchive)
     style.alignment = TextAlignment::Justified;
     style.writingDirection = WritingDirection::RightToLeft;
     style.lineHeightMultiple = 1.2;
-    style.tabStops = QList<TextTab>{{10.0, TextAlignment::Center}, {20.0, TextAlignment::Natural}};
+    style.tabStops = QList<TextTab>{{10.0, TextAlignment::Center, false, {}},
+                                    {20.0, TextAlignment::Right, true, {{u"a"_s, u"b"_s}}}};
     style.lineBreakMode = 3;
     style.allowsTighteningForTruncation = true;
     for (const auto format : {PropertyList::Format::Binary, PropertyList::Format::Xml}) {
