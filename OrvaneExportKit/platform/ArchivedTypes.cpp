@@ -1,5 +1,7 @@
 #include <OrvaneExportKit/platform/ArchivedTypes.h>
 
+#include <OrvaneExportKit/platform/ValueComparison.h>
+
 namespace platform {
 
 namespace {
@@ -28,7 +30,34 @@ public:
 
 const UrlConversions urlConversions;
 
+/// As `==` of lists is, but in a time that follows what there is.
+ValueComparison comparison()
+{
+    return ValueComparison(ValueComparison::Numbers::OfAnyType);
+}
+
 } // namespace
+
+bool operator==(const ObjectSet &a, const ObjectSet &b)
+{
+    return comparison().equal(a.elements, b.elements);
+}
+
+bool operator==(const OrderedObjectSet &a, const OrderedObjectSet &b)
+{
+    return comparison().equal(a.elements, b.elements);
+}
+
+bool operator==(const CountedObjectSet &a, const CountedObjectSet &b)
+{
+    return a.counts == b.counts && comparison().equal(a.elements, b.elements);
+}
+
+bool operator==(const ObjectDictionary &a, const ObjectDictionary &b)
+{
+    ValueComparison values = comparison();
+    return values.equal(a.keys, b.keys) && values.equal(a.objects, b.objects);
+}
 
 QUrl ArchivedUrl::url() const
 {

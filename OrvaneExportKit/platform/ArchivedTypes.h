@@ -21,14 +21,14 @@ namespace platform {
 struct ObjectSet {
     QVariantList elements; ///< none is twice in it
 
-    friend bool operator==(const ObjectSet &, const ObjectSet &) = default;
+    ORVANE_CORE_EXPORT friend bool operator==(const ObjectSet &a, const ObjectSet &b);
 };
 
 /// A set whose order counts.
 struct OrderedObjectSet {
     QVariantList elements; ///< in the order of the set, none twice
 
-    friend bool operator==(const OrderedObjectSet &, const OrderedObjectSet &) = default;
+    ORVANE_CORE_EXPORT friend bool operator==(const OrderedObjectSet &a, const OrderedObjectSet &b);
 };
 
 /// A set that knows how often it holds each element: `counts[i]` times `elements[i]`.
@@ -36,7 +36,7 @@ struct CountedObjectSet {
     QVariantList elements; ///< each once
     QList<quint64> counts; ///< as many as there are elements
 
-    friend bool operator==(const CountedObjectSet &, const CountedObjectSet &) = default;
+    ORVANE_CORE_EXPORT friend bool operator==(const CountedObjectSet &a, const CountedObjectSet &b);
 };
 
 /// A dictionary with at least one key that is not a string: `keys[i]` stands for `objects[i]`. A dictionary whose keys
@@ -45,7 +45,7 @@ struct ObjectDictionary {
     QVariantList keys;    ///< each once
     QVariantList objects; ///< as many as there are keys
 
-    friend bool operator==(const ObjectDictionary &, const ObjectDictionary &) = default;
+    ORVANE_CORE_EXPORT friend bool operator==(const ObjectDictionary &a, const ObjectDictionary &b);
 };
 
 /// The way through nested lists: an index a level, outermost first.

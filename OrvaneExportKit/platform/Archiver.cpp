@@ -2,6 +2,7 @@
 
 #include <OrvaneExportKit/platform/ArchiveKinds.h>
 #include <OrvaneExportKit/platform/TypeCodes.h>
+#include <OrvaneExportKit/platform/ValueExtent.h>
 
 #include <QtCore/QDataStream>
 #include <QtCore/QIODevice>
@@ -40,10 +41,16 @@ bool isUnsafe(const QByteArray &typeName)
     return std::any_of(names.begin(), names.end(), [&](const char *name) { return typeName.contains(name); });
 }
 
-/// Whether the value has more bytes than Qt's streams count.
+/// How many bytes Qt's streams count.
+constexpr qsizetype most = std::numeric_limits<int>::max();
+
+[[noreturn]] void refuseSize()
+{
+    throw InvalidArgumentException("encodeObject: a value takes more than 2147483647 bytes");
+}
+
 bool isTooLarge(const QVariant &value)
 {
-    constexpr qsizetype most = std::numeric_limits<int>::max();
     return (value.metaType() == QMetaType::fromType<QByteArray>() && value.toByteArray().size() > most) ||
            (value.metaType() == QMetaType::fromType<QString>() && value.toString().size() > most / 2);
 }
@@ -68,8 +75,8 @@ public:
     void append(const Writer &other)
     {
         // Qt writes no value that is larger, and says so in the status alone.
-        if (other.m_stream.status() != QDataStream::Ok || other.m_data.size() > std::numeric_limits<int>::max()) {
-            throw InvalidArgumentException("encodeObject: a value takes more than 2147483647 bytes");
+        if (other.m_stream.status() != QDataStream::Ok || other.m_data.size() > most) {
+            refuseSize();
         }
         m_stream.writeRawData(other.m_data.constData(), static_cast<int>(other.m_data.size()));
     }
@@ -78,6 +85,9 @@ public:
 
     void write(const QVariant &value, int depth = 0)
     {
+        if (m_data.size() > most) {
+            refuseSize();
+        }
         if (depth > maximumNesting) {
             throw InvalidArgumentException("encodeObject: lists and maps are nested more than 512 deep");
         }
@@ -124,7 +134,7 @@ private:
                                            (value.isValid() ? value.typeName() : "nothing") + " cannot be archived");
         }
         if (stream.status() != QDataStream::Ok || isTooLarge(value)) {
-            throw InvalidArgumentException("encodeObject: a value takes more than 2147483647 bytes");
+            refuseSize();
         }
         m_stream << quint8(Kind::Other) << QByteArray(value.typeName()) << bytes;
     }
@@ -308,6 +318,9 @@ void Archiver::encodeObject(const QVariant &object)
 {
     Writer field; // so that one that fails leaves nothing
     if (object.isValid()) {
+        if (extentOf(object).size > most) { // no value takes less than its extent
+            refuseSize();
+        }
         field.write(object);
     } else {
         field.writeNothing();

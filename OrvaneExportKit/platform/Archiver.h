@@ -27,8 +27,8 @@ namespace platform {
 /// Writing throws `InvalidArgumentException` when a value, or one inside it, is of a type without stream operators or
 /// of another container of `QVariant` than a list or a map; of a type that Qt cannot read from data that may be
 /// hostile (`QEasingCurve`, `QIcon`, `QPainterPath`, `QPolygon`, `QPolygonF`, `QRegion`, `QTextFormat`); when lists and
-/// maps are nested more than 512 deep; when one value takes more than 2147483647 bytes; and when a value inside a list
-/// or a map is nothing.
+/// maps are nested more than 512 deep; when one value takes more than 2147483647 bytes, where a list or a map that
+/// stands at several places is written at each; and when a value inside a list or a map is nothing.
 class ORVANE_CORE_EXPORT Archiver final : public Coder
 {
 public:

@@ -1,5 +1,6 @@
 #include <OrvaneExportKit/platform/AttributedString.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/platform/ValueComparison.h>
 
 #include <algorithm>
 #include <utility>
@@ -8,33 +9,11 @@ namespace platform {
 
 namespace {
 
-bool identical(const QVariantMap &a, const QVariantMap &b);
-
-/// Whether the values are equal and of the same types, also inside lists and maps. Stricter than `==`, for which the
-/// numbers 1 and 1.0 are equal.
-bool identicalValues(const QVariant &a, const QVariant &b)
-{
-    if (a.metaType() != b.metaType()) {
-        return false;
-    }
-    if (a.metaType() == QMetaType::fromType<QVariantMap>()) {
-        return identical(a.toMap(), b.toMap());
-    }
-    if (a.metaType() == QMetaType::fromType<QVariantList>()) {
-        const QVariantList left = a.toList();
-        const QVariantList right = b.toList();
-        return std::equal(left.begin(), left.end(), right.begin(), right.end(), identicalValues);
-    }
-    return a == b;
-}
-
+/// Whether the attributes are equal and of the same types, also inside lists and maps. Stricter than `==`, for which
+/// the numbers 1 and 1.0 are equal.
 bool identical(const QVariantMap &a, const QVariantMap &b)
 {
-    const auto sameEntry = [](const auto &x, const auto &y) {
-        return x.first == y.first && identicalValues(x.second, y.second);
-    };
-    return a.isSharedWith(b) ||
-           std::equal(a.keyValueBegin(), a.keyValueEnd(), b.keyValueBegin(), b.keyValueEnd(), sameEntry);
+    return ValueComparison(ValueComparison::Numbers::OfOneType).equal(a, b);
 }
 
 void requireAscending(const char *operation, const RangeList &ranges, std::size_t textLength)
@@ -138,11 +117,14 @@ QVariant AttributedString::attribute(const QString &name, std::size_t index, Ran
     qsizetype first = runHolding(index);
     QVariant value = m_runs[first].attributes.value(name);
     if (longestEffectiveRange != nullptr) {
+        const auto hasTheValue = [&](const Run &run) {
+            return ValueComparison(ValueComparison::Numbers::OfAnyType).equal(run.attributes.value(name), value);
+        };
         qsizetype last = first;
-        while (m_runs[first].start > within.location && m_runs[first - 1].attributes.value(name) == value) {
+        while (m_runs[first].start > within.location && hasTheValue(m_runs[first - 1])) {
             --first;
         }
-        while (runEnd(last) < within.end() && m_runs[last + 1].attributes.value(name) == value) {
+        while (runEnd(last) < within.end() && hasTheValue(m_runs[last + 1])) {
             ++last;
         }
         const std::size_t start = std::max(m_runs[first].start, within.location);

@@ -51,6 +51,9 @@ namespace platform {
 /// ISO 8601, bytes as UTF-8, lists and maps as compact JSON, nothing as the empty string, and any other value by the
 /// name of its type in angle brackets.
 ///
+/// Throws `platform::InvalidArgumentException` for a list or a map that holds more than 1048576 bytes (eight a value,
+/// and its texts; one that stands at several places counts at each), or is nested more than 512 deep.
+///
 ///     componentTexts({u"<2>"_s, 7, true});   // "<2>", "7", "1"
 ORVANE_CORE_EXPORT QStringList componentTexts(const QVariantList &components);
 

@@ -522,6 +522,12 @@ TEST(ComponentTexts, WriteDatesInIso8601)
 TEST(ComponentTexts, ReadBytesAsUtf8)
 {
     EXPECT_EQ(componentTexts({QByteArray("a\xC3\xA9")}), QStringList(u"a\u00E9"_s));
+    EXPECT_EQ(componentTexts({QByteArray("\xEF\xBB\xBF"
+                                         "a")}),
+              QStringList(u"\uFEFFa"_s));
+    EXPECT_EQ(componentTexts({QByteArray("\xFF"
+                                         "a")}),
+              QStringList(u"\uFFFDa"_s));
 }
 
 TEST(ComponentTexts, WriteListsAndMapsAsCompactJson)
