@@ -442,11 +442,11 @@ void correctDashes(Input &input)
         input, [](auto &text) { library::correctDashes(text); }, [](auto &text) { reference::correctDashes(text); });
 }
 
-void applyEdits(Input &input)
+void listsOfEdits(Input &input)
 {
     const std::vector<Edit> edits = input.edits();
     checkBoth(
-        input, [&](auto &text) { library::applyEdits(text, asLibrary(edits)); },
+        input, [&](auto &text) { library::edit(text, asLibrary(edits)); },
         [&](auto &text) { reference::applyEdits(text, edits); });
 }
 
@@ -528,7 +528,7 @@ constexpr std::array operations{
     convertEllipses,
     correctApostrophes,
     correctDashes,
-    applyEdits,
+    listsOfEdits,
     lineRangeForRange,
     changesOfAttributedText,
     attributeAtIndex,

@@ -1,5 +1,6 @@
 #include <OrvaneExportKit/platform/AttributedString.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
+#include <OrvaneExportKit/platform/TextEditor.h>
 #include <OrvaneExportKit/platform/ValueComparison.h>
 
 #include <algorithm>
@@ -155,7 +156,7 @@ void AttributedString::replaceCharacters(Range range, QStringView string)
 {
     requireRange("replaceCharacters", range, length());
     const QString replacement = string.toString(); // `string` may view this very text
-    applyEdits(*this, {{range, units(replacement)}});
+    edit(*this, {{range, units(replacement)}});
 }
 
 void AttributedString::changeAttributes(const RangeList &ranges, const std::function<void(QVariantMap &)> &change)
@@ -196,20 +197,32 @@ bool operator==(const AttributedString &a, const AttributedString &b)
            std::equal(a.m_runs.begin(), a.m_runs.end(), b.m_runs.begin(), b.m_runs.end(), sameRun);
 }
 
-void applyEdits(AttributedString &text, const TextEdits &edits)
+/// Changes the text as `edit` does with the list, and the runs with it.
+template <typename Edits>
+void AttributedString::editTextAndRuns(const Edits &edits)
 {
-    if (edits.empty()) {
-        return;
-    }
-    requireEdits(edits, text.length());
     // All that may fail comes before the first change.
-    makeOwn(text.m_runs);
-    const std::size_t length = text.length();
-    applyEdits(text.m_string, edits);
-    if (length > 0) {
-        text.moveRuns(edits, length);
-    } else if (!text.m_string.isEmpty()) {
-        text.m_runs.append(AttributedString::Run{0, {}});
+    makeOwn(m_runs);
+    const std::size_t before = length();
+    edit(m_string, edits);
+    if (before > 0) {
+        moveRuns(edits, before);
+    } else if (!m_string.isEmpty()) {
+        m_runs.append(Run{0, {}});
+    }
+}
+
+void edit(AttributedString &text, const TextEdits &edits)
+{
+    if (!edits.empty()) {
+        text.editTextAndRuns(edits);
+    }
+}
+
+void edit(AttributedString &text, Deletions deletions)
+{
+    if (!deletions.empty()) {
+        text.editTextAndRuns(deletions);
     }
 }
 
@@ -217,17 +230,21 @@ void applyEdits(AttributedString &text, const TextEdits &edits)
 ///
 /// New units belong to the run of the first unit that they replace, or to the one before them when they replace none,
 /// so a run starts behind all edits that begin before it.
-void AttributedString::moveRuns(const TextEdits &edits, std::size_t length)
+template <typename Edits>
+void AttributedString::moveRuns(const Edits &edits, std::size_t length)
 {
-    auto edit = edits.begin();
+    auto change = edits.begin();
+    const auto last = edits.end();
     std::size_t editsEnd = 0;
     std::size_t shift = 0; // modulo the word size, so that it may stand for less than nothing
     const auto startAfterEdits = [&](std::size_t start) {
-        while (edit != edits.end() &&
-               (edit->range.location < start || (edit->range.location == start && edit->range.length == 0))) {
-            shift += edit->replacement.size() - edit->range.length;
-            editsEnd = edit->range.end();
-            ++edit;
+        for (; change != last; ++change) {
+            const Range &range = rangeOf(*change);
+            if (range.location > start || (range.location == start && range.length > 0)) {
+                break;
+            }
+            shift += replacementOf(*change).size() - range.length;
+            editsEnd = range.end();
         }
         return std::max(start, editsEnd) + shift;
     };

@@ -13,12 +13,14 @@
 
 namespace platform {
 
+struct Deletions;
+
 /// A text whose units carry attributes: names with values, such as a style name or a colour.
 ///
 /// A value type: copies are cheap and share their storage until one of them changes. The attributes are kept as runs
 /// sorted by location, so a look-up costs the logarithm of the number of runs. A change costs at most the length of
 /// the text plus the number of runs; for changes at many places use the operations that take all of them in one call
-/// (`changeAttributes`, `applyEdits` and the operations of the kit's categories).
+/// (`changeAttributes`, `edit` and the operations of the kit's categories).
 ///
 /// Indices and ranges count UTF-16 code units.
 ///
@@ -72,7 +74,7 @@ struct ORVANE_CORE_EXPORT AttributedString {
     /// Removes one attribute from the units of the range; units that lack it stay as they are.
     void removeAttribute(const QString &name, Range range);
 
-    /// Puts `string` in the place of the range, with the attributes that `applyEdits` gives to new units.
+    /// Puts `string` in the place of the range, with the attributes that `edit` gives to new units.
     void replaceCharacters(Range range, QStringView string);
 
     /// Changes the attributes of all units in `ranges` in one pass over the runs: `change` is called with the
@@ -84,7 +86,8 @@ struct ORVANE_CORE_EXPORT AttributedString {
 
     /// Texts are equal when their units are and every unit has equal attributes.
     ORVANE_CORE_EXPORT friend bool operator==(const AttributedString &a, const AttributedString &b);
-    ORVANE_CORE_EXPORT friend void applyEdits(AttributedString &text, const TextEdits &edits);
+    ORVANE_CORE_EXPORT friend void edit(AttributedString &text, const TextEdits &edits);
+    friend void edit(AttributedString &text, Deletions deletions);
 
 private:
     /// The units from `start` to the start of the next run have these attributes. No run is empty, and neighbours
@@ -96,7 +99,10 @@ private:
 
     qsizetype runHolding(std::size_t index) const;
     std::size_t runEnd(qsizetype run) const;
-    void moveRuns(const TextEdits &edits, std::size_t length);
+    template <typename Edits>
+    void editTextAndRuns(const Edits &edits);
+    template <typename Edits>
+    void moveRuns(const Edits &edits, std::size_t length);
     static void appendRun(QList<Run> &runs, std::size_t start, const QVariantMap &attributes);
     void replaceRuns(qsizetype first, qsizetype count, const QList<Run> &replacements);
 

@@ -1,5 +1,7 @@
 #include <OrvaneExportKit/platform/TextEditor.h>
 
+#include <algorithm>
+
 namespace platform {
 
 namespace {
@@ -10,22 +12,11 @@ char16_t *moved(const char16_t *first, const char16_t *last, char16_t *target)
     return target == first ? target + (last - first) : std::copy(first, last, target);
 }
 
-const Range &rangeOf(const TextEdit &edit)
-{
-    return edit.range;
-}
-
-/// A mere range is an edit that deletes it.
-const Range &rangeOf(const Range &deleted)
-{
-    return deleted;
-}
-
 /// Writes what takes the place of the range at `target` and returns its end. Most replacements are a single unit, for
 /// which a call would cost more than the copy.
-char16_t *writeReplacement(const TextEdit &edit, char16_t *target)
+char16_t *writeReplacement(const TextEdit &change, char16_t *target)
 {
-    const std::u16string_view replacement = edit.replacement;
+    const std::u16string_view replacement = change.replacement;
     if (replacement.size() == 1) {
         *target = replacement.front();
         return target + 1;
@@ -42,9 +33,9 @@ char16_t *writeReplacement(const Range &, char16_t *target)
 template <typename Edits>
 char16_t *writeEdited(const char16_t *given, std::size_t from, std::size_t next, const Edits &edits, char16_t *target)
 {
-    for (const auto &edit : edits) {
-        target = writeReplacement(edit, moved(given + from, given + rangeOf(edit).location, target));
-        from = rangeOf(edit).end();
+    for (const auto &change : edits) {
+        target = writeReplacement(change, moved(given + from, given + rangeOf(change).location, target));
+        from = rangeOf(change).end();
     }
     return moved(given + from, given + next, target);
 }
@@ -68,8 +59,8 @@ std::size_t growthByEdits(const TextEdits &edits)
 {
     std::ptrdiff_t growth = 0;
     std::ptrdiff_t most = 0;
-    for (const TextEdit &edit : edits) {
-        growth += static_cast<std::ptrdiff_t>(edit.replacement.size() - edit.range.length);
+    for (const TextEdit &change : edits) {
+        growth += static_cast<std::ptrdiff_t>(change.replacement.size() - change.range.length);
         most = std::max(most, growth);
     }
     return static_cast<std::size_t>(most);
@@ -84,7 +75,7 @@ TextEditor::TextEditor(QString &text, std::size_t growth) : m_text(text), m_leng
 
 TextEditor::~TextEditor()
 {
-    apply({}, m_length);
+    apply(Deletions{{}}, m_length);
     m_text.truncate(static_cast<qsizetype>(m_done));
 }
 
@@ -94,9 +85,9 @@ void TextEditor::apply(const TextEdits &edits, std::size_t next)
     write(edits, next);
 }
 
-void TextEditor::remove(const RangeList &ranges)
+void TextEditor::apply(Deletions deletions, std::size_t next)
 {
-    write(ranges, m_length);
+    write(deletions, next);
 }
 
 template <typename Edits>
@@ -138,8 +129,8 @@ void CopyEditor::apply(const TextEdits &edits, std::size_t next)
 {
     const auto done = static_cast<std::size_t>(m_copy.size());
     std::size_t size = done + next - m_position;
-    for (const TextEdit &edit : edits) {
-        size = size - edit.range.length + edit.replacement.size();
+    for (const TextEdit &change : edits) {
+        size = size - change.range.length + change.replacement.size();
     }
     makeRoom(size, next);
     m_copy.resize(static_cast<qsizetype>(size));

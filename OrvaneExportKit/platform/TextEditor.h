@@ -1,11 +1,43 @@
 #pragma once
 
 #include <OrvaneExportKit/platform/TextEdits.h>
-#include <OrvaneExportKit/platform/TextUnits.h>
-
-#include <algorithm>
 
 namespace platform {
+
+/// A list of edits that only deletes: ranges that are ascending, do not overlap and lie inside the text, which is not
+/// checked.
+struct Deletions {
+    const RangeList &ranges;
+
+    auto begin() const { return ranges.begin(); }
+    auto end() const { return ranges.end(); }
+    bool empty() const { return ranges.empty(); }
+};
+
+void edit(QString &text, Deletions deletions);
+void edit(AttributedString &text, Deletions deletions);
+
+/// What an edit of either list replaces.
+inline const Range &rangeOf(const TextEdit &change)
+{
+    return change.range;
+}
+
+inline const Range &rangeOf(const Range &deleted)
+{
+    return deleted;
+}
+
+/// What it puts there.
+inline std::u16string_view replacementOf(const TextEdit &change)
+{
+    return change.replacement;
+}
+
+inline std::u16string_view replacementOf(const Range &)
+{
+    return {};
+}
 
 /// Edits a text in place, from its start to its end. The buffer holds what is done at its front and what is still to
 /// come at its back; the gap between them takes up what edits make longer. Its destructor closes the gap, so the text
@@ -30,8 +62,8 @@ public:
     /// Makes the edits that lie between `position()` and `next`, which becomes the position.
     void apply(const TextEdits &edits, std::size_t next);
 
-    /// Deletes the ranges, which are ascending, do not overlap and lie behind `position()`, from the whole text.
-    void remove(const RangeList &ranges);
+    /// The same for edits that only delete.
+    void apply(Deletions deletions, std::size_t next);
 
 private:
     template <typename Edits>
@@ -71,12 +103,6 @@ private:
     QString m_copy;
 };
 
-/// Makes the text `size` units long and lets it take no more memory than that needs, as growing alone would.
-void resizeExactly(QString &text, std::size_t size);
-
-/// How much longer edits make what stands before any place, at most.
-std::size_t growthByEdits(const TextEdits &edits);
-
 /// How many units are searched before what was found in them is edited: few enough to be still in the cache.
 #if defined(FUZZING_BUILD_MODE_UNSAFE_FOR_PRODUCTION)
 inline constexpr std::size_t unitsEditedAtOnce = 64; // short inputs are to reach over the ends of blocks
@@ -84,49 +110,10 @@ inline constexpr std::size_t unitsEditedAtOnce = 64; // short inputs are to reac
 inline constexpr std::size_t unitsEditedAtOnce = 1 << 14;
 #endif
 
-/// Lets an editor work a block at a time. `find(text, from, until, edits)` appends the edits that begin from `from` to
-/// before `until`, those at the very end of the text included, and returns from where the next call goes on, `until` or
-/// behind it. It may look at units behind `until` but not at units before `from`.
-template <typename Editor, typename Find>
-void runEditor(Editor &editor, Find &&find)
-{
-    const std::size_t length = editor.given().size();
-    TextEdits edits;
-    for (bool atEnd = false; !atEnd;) {
-        const std::size_t from = editor.position();
-        const std::size_t until = std::min(length, from + unitsEditedAtOnce);
-        atEnd = until == length;
-        edits.clear();
-        const std::size_t next = find(editor.given(), from, until, edits);
-        editor.apply(edits, next);
-    }
-}
+/// Makes the text `size` units long and lets it take no more memory than that needs, as growing alone would.
+void resizeExactly(QString &text, std::size_t size);
 
-/// Edits the text a block at a time. `find` is called as `runEditor` calls it.
-template <typename Find>
-void editInBlocks(QString &text, Find &&find)
-{
-    TextEditor editor(text);
-    runEditor(editor, find);
-}
-
-/// An edited copy of the text. `find` is called as `runEditor` calls it.
-template <typename Find>
-QString editedCopy(std::u16string_view text, Find &&find)
-{
-    CopyEditor editor(text);
-    runEditor(editor, find);
-    return editor.takeCopy();
-}
-
-/// Makes all edits that `find` finds at once: for attributed text, and where nothing may change before all is found.
-template <typename Text, typename Find>
-void editAtOnce(Text &text, Find &&find)
-{
-    TextEdits edits;
-    const std::u16string_view given = units(text);
-    find(given, 0, given.size(), edits);
-    applyEdits(text, edits);
-}
+/// How much longer edits make what stands before any place, at most.
+std::size_t growthByEdits(const TextEdits &edits);
 
 } // namespace platform

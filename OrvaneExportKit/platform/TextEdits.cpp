@@ -1,14 +1,18 @@
+#include <OrvaneExportKit/platform/TextEdits.h>
+
+#include <OrvaneExportKit/platform/AttributedString.h>
 #include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/platform/TextEditor.h>
-#include <OrvaneExportKit/platform/TextUnits.h>
+
+#include <algorithm>
 
 namespace platform {
 
 namespace {
 
-bool makesShorter(const TextEdit &edit)
+bool makesShorter(const TextEdit &change)
 {
-    return edit.replacement.size() < edit.range.length;
+    return change.replacement.size() < change.range.length;
 }
 
 /// Edits that make nothing shorter, made from the end of the text to its start: then no unit is moved twice.
@@ -19,11 +23,48 @@ void applyBackwards(QString &text, const TextEdits &edits, std::size_t growth)
     resizeExactly(text, size);
     auto *const start = reinterpret_cast<char16_t *>(text.data());
     char16_t *target = start + size;
-    for (auto edit = edits.rbegin(); edit != edits.rend(); ++edit) {
-        target = std::copy_backward(start + edit->range.end(), start + position, target);
-        target = std::copy_backward(edit->replacement.begin(), edit->replacement.end(), target);
-        position = edit->range.location;
+    for (auto change = edits.rbegin(); change != edits.rend(); ++change) {
+        target = std::copy_backward(start + change->range.end(), start + position, target);
+        target = std::copy_backward(change->replacement.begin(), change->replacement.end(), target);
+        position = change->range.location;
     }
+}
+
+/// Lets an editor carry out what the finder finds, a block at a time where it works in blocks.
+template <typename Editor>
+void runEditor(Editor &editor, const EditFinder &find)
+{
+    const std::size_t length = editor.given().size();
+    TextEdits edits;
+    for (bool atEnd = false; !atEnd;) {
+        const std::size_t from = editor.position();
+        const std::size_t until = find.worksInBlocks() ? std::min(length, from + unitsEditedAtOnce) : length;
+        atEnd = until == length;
+        edits.clear();
+        std::size_t next = 0;
+        try {
+            next = find(editor.given(), from, until, edits);
+        } catch (const RangeException &) {
+            editor.apply(edits, edits.empty() ? from : edits.back().range.end());
+            throw;
+        }
+        editor.apply(edits, next);
+    }
+}
+
+/// Finds all before anything is changed.
+template <typename Text>
+void editAtOnce(Text &text, const EditFinder &find)
+{
+    TextEdits edits;
+    const std::u16string_view given = units(text);
+    try {
+        find(given, 0, given.size(), edits);
+    } catch (const RangeException &) {
+        edit(text, edits);
+        throw;
+    }
+    edit(text, edits);
 }
 
 } // namespace
@@ -31,17 +72,17 @@ void applyBackwards(QString &text, const TextEdits &edits, std::size_t growth)
 void requireEdits(const TextEdits &edits, std::size_t textLength)
 {
     std::size_t position = 0;
-    for (const TextEdit &edit : edits) {
-        requireRange("applyEdits", edit.range, textLength);
-        if (edit.range.location < position) {
-            throw InvalidArgumentException("applyEdits: the edit at " + std::to_string(edit.range.location) +
+    for (const TextEdit &change : edits) {
+        requireRange("edit", change.range, textLength);
+        if (change.range.location < position) {
+            throw InvalidArgumentException("edit: the edit at " + std::to_string(change.range.location) +
                                            " begins before the end of the one before it");
         }
-        position = edit.range.end();
+        position = change.range.end();
     }
 }
 
-void applyEdits(QString &text, const TextEdits &edits)
+void edit(QString &text, const TextEdits &edits)
 {
     if (edits.empty()) {
         return;
@@ -54,6 +95,42 @@ void applyEdits(QString &text, const TextEdits &edits)
     }
     TextEditor editor(text, growth);
     editor.apply(edits, editor.given().size());
+}
+
+QString edit(QStringView text, const TextEdits &edits)
+{
+    requireEdits(edits, units(text).size());
+    CopyEditor editor(units(text));
+    editor.apply(edits, editor.given().size());
+    return editor.takeCopy();
+}
+
+void edit(QString &text, Deletions deletions)
+{
+    TextEditor editor(text);
+    editor.apply(deletions, editor.given().size());
+}
+
+void edit(QString &text, const EditFinder &find)
+{
+    if (!find.worksInBlocks()) {
+        editAtOnce(text, find);
+        return;
+    }
+    TextEditor editor(text);
+    runEditor(editor, find);
+}
+
+void edit(AttributedString &text, const EditFinder &find)
+{
+    editAtOnce(text, find);
+}
+
+QString edit(QStringView text, const EditFinder &find)
+{
+    CopyEditor editor(units(text));
+    runEditor(editor, find);
+    return editor.takeCopy();
 }
 
 } // namespace platform

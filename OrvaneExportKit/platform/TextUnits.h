@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QString>
 #include <QtCore/QStringView>
 
 #include <string_view>
@@ -10,16 +11,13 @@
 namespace platform {
 
 /// The UTF-16 code units of a string or view, as the finding functions read them. Not a copy: it lives as long as the
-/// text is neither changed nor destroyed.
+/// text is neither changed nor destroyed, which is why there is none of a string that is gone at the end of the
+/// statement.
 inline std::u16string_view units(QStringView text) noexcept
 {
     return {text.utf16(), static_cast<std::size_t>(text.size())};
 }
 
-/// The same units as a Qt view.
-inline QStringView view(std::u16string_view text) noexcept
-{
-    return {text.data(), static_cast<qsizetype>(text.size())};
-}
+std::u16string_view units(QString &&text) = delete;
 
 } // namespace platform

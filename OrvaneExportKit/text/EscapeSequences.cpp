@@ -1,7 +1,7 @@
 #include <OrvaneExportKit/text/EscapeSequences.h>
 
 #include <OrvaneExportKit/platform/LiteralSearch.h>
-#include <OrvaneExportKit/platform/TextEditor.h>
+#include <OrvaneExportKit/platform/TextEdits.h>
 #include <OrvaneExportKit/text/Occurrences.h>
 #include <OrvaneExportKit/text/UnitSubstitution.h>
 
@@ -38,9 +38,13 @@ public:
                 return;
             }
             if (const auto control = counterpart(text[at + 1], letters, controls)) {
-                edits.push_back(escaped ? platform::TextEdit{{at, 1}} : platform::TextEdit{{at, 2}, *control});
+                if (escaped) {
+                    edits.remove({at, 1});
+                } else {
+                    edits.replace({at, 2}, *control);
+                }
             } else if (const auto letter = counterpart(text[at + 1], controls, letters)) {
-                edits.push_back({{at + 1, 1}, *letter});
+                edits.replace({at + 1, 1}, *letter);
             } else {
                 return;
             }
@@ -68,7 +72,7 @@ public:
         }
         makeGathered();
         if (platform::findLiteral(m_copy ? units(*m_copy) : units(m_given), units(from), 0) != platform::notFound) {
-            edit(platform::Replacements{units(from), units(to)});
+            carryOut(platform::Replacements{units(from), units(to)});
         }
     }
 
@@ -82,18 +86,17 @@ private:
     void makeGathered()
     {
         if (!m_gathered.empty()) {
-            edit(platform::UnitReplacementFinder(m_gathered));
+            carryOut(platform::UnitReplacementFinder(m_gathered));
             m_gathered.clear();
         }
     }
 
-    template <typename Find>
-    void edit(const Find &find)
+    void carryOut(const platform::EditFinder &find)
     {
         if (m_copy) {
-            platform::editInBlocks(*m_copy, find);
+            platform::edit(*m_copy, find);
         } else {
-            m_copy = platform::editedCopy(units(m_given), find);
+            m_copy = platform::edit(m_given, find);
         }
     }
 
@@ -108,7 +111,7 @@ namespace KZStringExportAdditions {
 
 QString stringWithConvertedEscSequences(QStringView text)
 {
-    return platform::editedCopy(units(text), EscapeFinder());
+    return platform::edit(text, EscapeFinder());
 }
 
 QString stringWithConvertedStringsFromArray(QStringView text, const QStringList &from, const QStringList &to)

@@ -3,37 +3,38 @@
 #include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/platform/LineRanges.h>
 #include <OrvaneExportKit/platform/LiteralSearch.h>
-#include <OrvaneExportKit/platform/TextEditor.h>
+#include <OrvaneExportKit/platform/TextEdits.h>
 
 #include <algorithm>
 #include <limits>
 #include <new>
 #include <string>
 
+using platform::edit;
 using platform::TextEdits;
 using platform::units;
 
 namespace {
 
 /// Finds the unbroken run of tabs at the start of each line.
-TextEdits findStartTabs(std::u16string_view text)
+platform::RangeList findStartTabs(std::u16string_view text)
 {
-    TextEdits runs;
+    platform::RangeList runs;
     platform::forEachUnit(text, 0, platform::OneOf<u'\t'>(), [&](std::size_t at) {
-        if (!runs.empty() && at == runs.back().range.end()) {
-            ++runs.back().range.length;
+        if (!runs.empty() && at == runs.back().end()) {
+            ++runs.back().length;
         } else if (at == 0 || text[at - 1] == u'\n') {
-            runs.push_back({{at, 1}});
+            runs.push_back({at, 1});
         }
     });
     return runs;
 }
 
-std::size_t longestRange(const TextEdits &edits)
+std::size_t longestLength(const platform::RangeList &ranges)
 {
     std::size_t longest = 0;
-    for (const platform::TextEdit &edit : edits) {
-        longest = std::max(longest, edit.range.length);
+    for (const platform::Range &range : ranges) {
+        longest = std::max(longest, range.length);
     }
     return longest;
 }
@@ -48,13 +49,12 @@ std::u16string spacesForTabs(std::size_t tabs, std::size_t spaces)
 }
 
 /// Finds the line feeds before another one.
-std::size_t findEmptyLines(std::u16string_view text, std::size_t from, std::size_t until, TextEdits &edits)
-{
+constexpr auto findEmptyLines = [](std::u16string_view text, std::size_t from, std::size_t until, TextEdits &edits) {
     platform::forEachLiteral<platform::Expected::Often>(text, u"\n\n", from, until, [&](std::size_t at) {
-        edits.push_back({{at, 1}});
+        edits.remove({at, 1});
     });
     return until;
-}
+};
 
 /// The units behind which a line may end.
 struct BreakCharacters {
@@ -93,7 +93,7 @@ public:
                 return text.size();
             }
             start = skipSpaces(text, gap);
-            edits.push_back({{gap, start - gap}, u"\n"});
+            edits.replace({gap, start - gap}, u"\n");
         }
         return std::min(start, text.size());
     }
@@ -149,17 +149,19 @@ namespace KZMutableStringExportAdditions {
 
 void convertStartTabsToSpace(QString &text, quint32 spaces)
 {
-    TextEdits runs = findStartTabs(units(text));
-    const std::u16string longest = spacesForTabs(longestRange(runs), spaces);
-    for (platform::TextEdit &run : runs) {
-        run.replacement = std::u16string_view(longest).substr(0, run.range.length * spaces);
+    const platform::RangeList runs = findStartTabs(units(text));
+    const std::u16string longest = spacesForTabs(longestLength(runs), spaces);
+    TextEdits edits;
+    edits.reserve(runs.size());
+    for (const platform::Range &run : runs) {
+        edits.replace(run, std::u16string_view(longest).substr(0, run.length * spaces));
     }
-    applyEdits(text, runs);
+    edit(text, edits);
 }
 
 void deleteEmptyLines(QString &text)
 {
-    platform::editInBlocks(text, findEmptyLines);
+    edit(text, findEmptyLines);
 }
 
 void setMaxLineLength(QString &text, quint32 limit)
@@ -168,7 +170,7 @@ void setMaxLineLength(QString &text, quint32 limit)
         return;
     }
     LineBreaker lineBreaker(limit);
-    platform::editInBlocks(text, lineBreaker);
+    edit(text, lineBreaker);
     if (lineBreaker.fails()) {
         text.append(u'\n');
         constexpr platform::Range beforeTheText{std::numeric_limits<std::size_t>::max(), 1};

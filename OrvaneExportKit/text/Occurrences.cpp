@@ -13,7 +13,7 @@ std::size_t Replacements::operator()(std::u16string_view text, std::size_t from,
     std::size_t end = until;
     forEachOccurrence(text, literal, from, until, [&](std::size_t at) {
         end = at + literal.size();
-        edits.push_back({{at, literal.size()}, replacement});
+        edits.replace({at, literal.size()}, replacement);
     });
     return std::max(end, until);
 }

@@ -1,5 +1,6 @@
 #include <OrvaneExportKit/text/ParagraphMarks.h>
 
+#include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/platform/LiteralSearch.h>
 #include <OrvaneExportKit/text/DisjointRanges.h>
 #include <OrvaneExportKit/text/PositionSet.h>
@@ -14,13 +15,12 @@ constexpr const char *operation = "deleteParagraphMark";
 
 /// The usual list: what a range takes out lies before all that the ranges behind it took out, so the text as it was
 /// tells everything.
-FoundEdits findInDisjointRanges(std::u16string_view text, std::u16string_view mark, const RangeList &ranges)
+void findInDisjointRanges(std::u16string_view text, std::u16string_view mark, const RangeList &ranges, TextEdits &edits)
 {
-    FoundEdits found;
-    if (!ranges.empty() && !ranges.back().fits(text.size())) {
-        found.failure.emplace(operation, ranges.back(), text.size());
-        return found;
+    if (!ranges.empty()) {
+        requireRange(operation, ranges.back(), text.size());
     }
+    RangeList deletions; // from the last to the first
     // What stands behind the next deletion is no blank, so blanks end where it begins.
     std::size_t nextDeletion = text.size();
     for (auto range = ranges.rbegin(); range != ranges.rend(); ++range) {
@@ -32,11 +32,11 @@ FoundEdits findInDisjointRanges(std::u16string_view text, std::u16string_view ma
         while (end < nextDeletion && text[end] == u' ') {
             ++end;
         }
-        found.edits.push_back({{range->location, end - range->location}});
+        deletions.push_back({range->location, end - range->location});
         nextDeletion = range->location;
     }
-    std::reverse(found.edits.begin(), found.edits.end());
-    return found;
+    edits.reserve(deletions.size());
+    std::for_each(deletions.rbegin(), deletions.rend(), [&](const Range &deletion) { edits.remove(deletion); });
 }
 
 /// A text from which units are deleted while the places of the mark in it are kept up to date. Positions count the
@@ -77,22 +77,20 @@ public:
         findMarksAcross(range.location);
     }
 
-    /// The stretches of the original text that are gone.
-    TextEdits deletions() const
+    /// Appends the stretches of the original text that are gone.
+    void appendDeletions(TextEdits &edits) const
     {
-        TextEdits edits;
         for (std::size_t unit = 0; unit < m_text.size();) {
             const std::size_t start = unit;
             while (unit < m_text.size() && !m_left.contains(unit)) {
                 ++unit;
             }
             if (unit > start) {
-                edits.push_back({{start, unit - start}});
+                edits.remove({start, unit - start});
             } else {
                 ++unit;
             }
         }
-        return edits;
     }
 
 private:
@@ -119,14 +117,13 @@ private:
     PositionSet m_marks;
 };
 
-FoundEdits findInAnyRanges(std::u16string_view text, std::u16string_view mark, const RangeList &ranges)
+void findInAnyRanges(std::u16string_view text, std::u16string_view mark, const RangeList &ranges, TextEdits &edits)
 {
-    FoundEdits found;
     MarkedText marked(text, mark);
     for (auto range = ranges.rbegin(); range != ranges.rend(); ++range) {
         if (!range->fits(marked.length())) {
-            found.failure.emplace(operation, *range, marked.length());
-            break;
+            marked.appendDeletions(edits);
+            throw RangeException(operation, *range, marked.length());
         }
         const std::size_t at = marked.findMark(*range);
         if (at == notFound) {
@@ -138,16 +135,18 @@ FoundEdits findInAnyRanges(std::u16string_view text, std::u16string_view mark, c
         }
         marked.erase({range->location, end - range->location});
     }
-    found.edits = marked.deletions();
-    return found;
+    marked.appendDeletions(edits);
 }
 
 } // namespace
 
-FoundEdits findParagraphMarkDeletions(std::u16string_view text, std::u16string_view mark, const RangeList &ranges)
+void findParagraphMarks(std::u16string_view text, std::u16string_view mark, const RangeList &ranges, TextEdits &edits)
 {
-    return isAscendingAndDisjoint(ranges) ? findInDisjointRanges(text, mark, ranges)
-                                          : findInAnyRanges(text, mark, ranges);
+    if (isAscendingAndDisjoint(ranges)) {
+        findInDisjointRanges(text, mark, ranges, edits);
+    } else {
+        findInAnyRanges(text, mark, ranges, edits);
+    }
 }
 
 } // namespace platform

@@ -1,14 +1,15 @@
 #include <OrvaneExportKit/text/QuotationMarks.h>
 
+#include <OrvaneExportKit/platform/AttributedString.h>
 #include <OrvaneExportKit/platform/Bundle.h>
 #include <OrvaneExportKit/platform/UnitSearch.h>
-#include <OrvaneExportKit/text/FoundEdits.h>
 #include <OrvaneExportKit/text/QuotationTable.h>
 
 #include <algorithm>
 #include <array>
 
 using platform::AttributedString;
+using platform::edit;
 using platform::TextEdits;
 using platform::units;
 
@@ -52,7 +53,7 @@ public:
         platform::forEachUnit(text.substr(0, until), from, platform::OneOf<straightMark>(), [&](std::size_t at) {
             passText(text, from, at);
             m_opens = m_opens || (at == m_word && m_word > m_behindMark);
-            edits.push_back({{at, 1}, m_opens ? m_marks.start : m_marks.stop});
+            edits.replace({at, 1}, m_opens ? m_marks.start : m_marks.stop);
             m_opens = !m_opens;
             m_behindMark = at + 1;
             m_word = skipWhiteSpace(text, at + 1);
@@ -83,9 +84,12 @@ template <typename Text>
 void convertMarks(Text &text, const MarkPair &marks)
 {
     if (marks.start.size() <= 1 && marks.stop.size() <= 1) {
-        platform::carryOutFound(text, MarkFinder(marks));
+        edit(text, MarkFinder(marks));
     } else {
-        platform::editAtOnce(text, MarkFinder(marks));
+        edit(text, [&](std::u16string_view given, TextEdits &edits) {
+            MarkFinder find(marks);
+            find(given, 0, given.size(), edits);
+        });
     }
 }
 

@@ -1,16 +1,17 @@
 #include <OrvaneExportKit/text/RangeLists.h>
 
+#include <OrvaneExportKit/platform/AttributedString.h>
+#include <OrvaneExportKit/platform/Exceptions.h>
 #include <OrvaneExportKit/platform/LineRanges.h>
+#include <OrvaneExportKit/platform/TextEditor.h>
 #include <OrvaneExportKit/text/DisjointRanges.h>
-#include <OrvaneExportKit/text/FoundEdits.h>
 #include <OrvaneExportKit/text/PositionSet.h>
 
 #include <algorithm>
 #include <optional>
 
 using platform::AttributedString;
-using platform::carryOut;
-using platform::FoundEdits;
+using platform::edit;
 using platform::Range;
 using platform::RangeException;
 using platform::RangeList;
@@ -40,28 +41,6 @@ void requireLastRange(const char *operation, const RangeList &disjoint, std::siz
     }
 }
 
-TextEdits deletions(const RangeList &ranges)
-{
-    TextEdits edits;
-    edits.reserve(ranges.size());
-    for (const Range &range : ranges) {
-        edits.push_back({range});
-    }
-    return edits;
-}
-
-void deleteDisjointRanges(QString &text, const RangeList &ranges)
-{
-    requireLastRange("deleteCharactersInRanges", ranges, units(text).size());
-    platform::TextEditor(text).remove(ranges);
-}
-
-void deleteDisjointRanges(AttributedString &text, const RangeList &ranges)
-{
-    requireLastRange("deleteCharactersInRanges", ranges, text.length());
-    applyEdits(text, deletions(ranges));
-}
-
 /// The stretch of the original text that deleting `range` from the current one takes out. `deleted` holds what is
 /// gone already, from the highest stretch to the lowest, none of it before the range; the stretches that the range
 /// reaches become part of it.
@@ -75,21 +54,20 @@ Range stretchToDelete(const Range &range, RangeList &deleted)
     return {range.location, end - range.location};
 }
 
-FoundEdits findDeletions(std::size_t length, const RangeList &sorted)
+/// Finds what deleting the ranges takes out where they overlap.
+void findOverlappingDeletions(std::size_t length, const RangeList &sorted, TextEdits &edits)
 {
-    FoundEdits found;
     RangeList deleted;
-    for (auto range = sorted.rbegin(); range != sorted.rend(); ++range) {
-        if (!range->fits(length)) {
-            found.failure.emplace("deleteCharactersInRanges", *range, length);
-            break;
-        }
+    auto range = sorted.rbegin();
+    for (; range != sorted.rend() && range->fits(length); ++range) {
         length -= range->length;
         deleted.push_back(stretchToDelete(*range, deleted));
     }
-    std::reverse(deleted.begin(), deleted.end());
-    found.edits = deletions(deleted);
-    return found;
+    edits.reserve(deleted.size());
+    std::for_each(deleted.rbegin(), deleted.rend(), [&](const Range &stretch) { edits.remove(stretch); });
+    if (range != sorted.rend()) {
+        throw RangeException("deleteCharactersInRanges", *range, length);
+    }
 }
 
 /// Calls `disjoint` with the sorted ranges where they do not overlap, and `overlapping` where they do.
@@ -112,8 +90,16 @@ template <typename Text>
 void deleteRanges(Text &text, const RangeList &ranges)
 {
     withSortedRanges(
-        ranges, [&](const RangeList &sorted) { deleteDisjointRanges(text, sorted); },
-        [&](const RangeList &sorted) { carryOut(text, findDeletions(units(text).size(), sorted)); });
+        ranges,
+        [&](const RangeList &sorted) {
+            requireLastRange("deleteCharactersInRanges", sorted, units(text).size());
+            edit(text, platform::Deletions{sorted});
+        },
+        [&](const RangeList &sorted) {
+            edit(text, [&](std::u16string_view given, TextEdits &edits) {
+                findOverlappingDeletions(given.size(), sorted, edits);
+            });
+        });
 }
 
 void encloseDisjointRanges(QString &text, const RangeList &ranges, std::u16string_view string)
@@ -122,10 +108,10 @@ void encloseDisjointRanges(QString &text, const RangeList &ranges, std::u16strin
     TextEdits edits;
     edits.reserve(2 * ranges.size());
     for (const Range &range : ranges) {
-        edits.push_back({{range.location, 0}, string});
-        edits.push_back({{range.end(), 0}, string});
+        edits.insert(range.location, string);
+        edits.insert(range.end(), string);
     }
-    applyEdits(text, edits);
+    edit(text, edits);
 }
 
 /// The text that all insertions together put in, at the places where it ends up. Its units that are not `kept` free
@@ -149,17 +135,13 @@ std::vector<char16_t> insertedUnits(platform::PositionSet &kept, const std::vect
 
 /// Enclosing where ranges overlap: an insertion may fall into what another one has put in. `inserted` receives the
 /// units that the edits view.
-FoundEdits findOverlappingEnclosures(std::size_t length, const RangeList &sorted, std::u16string_view string,
-                                     std::vector<char16_t> &inserted)
+void findOverlappingEnclosures(std::size_t length, const RangeList &sorted, std::u16string_view string,
+                               std::vector<char16_t> &inserted, TextEdits &edits)
 {
-    FoundEdits found;
     std::vector<std::size_t> positions;
     std::size_t lengthNow = length;
-    for (auto range = sorted.rbegin(); range != sorted.rend(); ++range) {
-        if (!range->fits(lengthNow)) {
-            found.failure.emplace("encloseRanges", *range, lengthNow);
-            break;
-        }
+    auto range = sorted.rbegin();
+    for (; range != sorted.rend() && range->fits(lengthNow); ++range) {
         positions.push_back(range->end());
         positions.push_back(range->location);
         lengthNow += 2 * string.size();
@@ -173,13 +155,15 @@ FoundEdits findOverlappingEnclosures(std::size_t length, const RangeList &sorted
             ++place;
         }
         if (place > start) {
-            found.edits.push_back({{original, 0}, {inserted.data() + start, place - start}});
+            edits.insert(original, std::u16string_view(inserted.data() + start, place - start));
         } else {
             ++original;
             ++place;
         }
     }
-    return found;
+    if (range != sorted.rend()) {
+        throw RangeException("encloseRanges", *range, lengthNow);
+    }
 }
 
 /// The units of all sorted ranges that take effect before one fails, as ascending ranges that do not overlap.
@@ -250,7 +234,9 @@ void encloseRanges(QString &text, const RangeList &ranges, QStringView string)
         ranges, [&](const RangeList &sorted) { encloseDisjointRanges(text, sorted, copy); },
         [&](const RangeList &sorted) {
             std::vector<char16_t> inserted;
-            carryOut(text, findOverlappingEnclosures(units(text).size(), sorted, copy, inserted));
+            edit(text, [&](std::u16string_view given, TextEdits &edits) {
+                findOverlappingEnclosures(given.size(), sorted, copy, inserted, edits);
+            });
         });
 }
 

@@ -2,6 +2,7 @@
 
 #include <OrvaneExportKit/platform/LineRanges.h>
 #include <OrvaneExportKit/platform/LiteralSearch.h>
+#include <OrvaneExportKit/platform/TextEditor.h>
 #include <OrvaneExportKit/text/ParagraphMarks.h>
 
 #include <algorithm>
@@ -9,7 +10,6 @@
 using platform::AttributedString;
 using platform::findLiteral;
 using platform::RangeList;
-using platform::TextEdits;
 using platform::units;
 
 namespace {
@@ -25,28 +25,27 @@ RangeList findLevelLines(std::u16string_view text, std::u16string_view levelStri
     return lines;
 }
 
-TextEdits findLevelMarks(std::u16string_view text, std::u16string_view levelString)
+/// The level string of each line with the blanks behind it.
+RangeList findLevelMarks(std::u16string_view text, std::u16string_view levelString)
 {
-    const RangeList lines = findLevelLines(text, levelString);
-    TextEdits edits(lines.size());
+    RangeList marks = findLevelLines(text, levelString);
     // What stands behind a deleted mark is no blank, so the blanks of the mark before it end where it begins.
     std::size_t nextMark = text.size();
-    for (std::size_t index = lines.size(); index-- > 0;) {
-        const std::size_t start = lines[index].location;
-        std::size_t end = start + levelString.size();
+    for (auto mark = marks.rbegin(); mark != marks.rend(); ++mark) {
+        std::size_t end = mark->location + levelString.size();
         while (end < nextMark && text[end] == u' ') {
             ++end;
         }
-        edits[index].range = {start, end - start};
-        nextMark = start;
+        mark->length = end - mark->location;
+        nextMark = mark->location;
     }
-    return edits;
+    return marks;
 }
 
 template <typename Text>
 void deleteLevelMarks(Text &text, QStringView levelString)
 {
-    applyEdits(text, findLevelMarks(units(text), units(levelString)));
+    edit(text, platform::Deletions{findLevelMarks(units(text), units(levelString))});
 }
 
 /// Whether the tag at `at` is no tag but the "//" of a web address, right after its colon.
@@ -142,7 +141,9 @@ void deleteLevelMark(AttributedString &text, QStringView levelString)
 
 void deleteParagraphMark(AttributedString &text, QStringView mark, const RangeList &ranges)
 {
-    carryOut(text, platform::findParagraphMarkDeletions(units(text), units(mark), ranges));
+    edit(text, [&](std::u16string_view given, platform::TextEdits &edits) {
+        platform::findParagraphMarks(given, units(mark), ranges, edits);
+    });
 }
 
 } // namespace KZMutableAttributedStringExportAdditions

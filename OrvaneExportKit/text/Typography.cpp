@@ -1,7 +1,7 @@
 #include <OrvaneExportKit/text/Typography.h>
 
+#include <OrvaneExportKit/platform/AttributedString.h>
 #include <OrvaneExportKit/platform/UnitSearch.h>
-#include <OrvaneExportKit/text/FoundEdits.h>
 #include <OrvaneExportKit/text/Occurrences.h>
 
 #include <algorithm>
@@ -16,7 +16,7 @@ constexpr char16_t typographicApostrophe = u'\u2019';
 template <typename Text>
 void replaceAll(Text &text, std::u16string_view literal, std::u16string_view replacement)
 {
-    platform::carryOutFound(text, platform::Replacements{literal, replacement});
+    platform::edit(text, platform::Replacements{literal, replacement});
 }
 
 /// Compilers write many units at once where every one is written, changed or not.

@@ -90,7 +90,7 @@ std::size_t UnitReplacementFinder::operator()(std::u16string_view text, std::siz
     forEachUnit(text.substr(0, until), from, m_sieve, [&](std::size_t at) {
         const QString *const replacement = m_pages[m_pageOf[text[at] / pageSize]][text[at] % pageSize];
         if (replacement != nullptr) {
-            edits.push_back({{at, 1}, units(*replacement)});
+            edits.replace({at, 1}, units(*replacement));
         }
     });
     return until;

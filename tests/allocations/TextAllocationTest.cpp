@@ -15,7 +15,7 @@ namespace {
 constexpr std::u16string_view sampleUnits =
     u"## A title\n\n\t\"Yes\", she said ... it's 4--5\n\n> **not** here\n## The **end**\n";
 
-const QStringView sample = platform::view(sampleUnits);
+const QStringView sample(sampleUnits);
 
 QString plainText()
 {
@@ -163,17 +163,17 @@ TEST(TextAllocation, CorrectDashes)
     onAllTexts([](auto &text) { library::correctDashes(text); });
 }
 
-TEST(TextAllocation, ApplyEdits)
+TEST(TextAllocation, Edit)
 {
     const platform::TextEdits edits{{{2, 5}, u"a longer text"}, {{20, 0}, u"inserted"}, {{30, 9}, u""}};
-    onAllTexts([&edits](auto &text) { applyEdits(text, edits); });
+    onAllTexts([&edits](auto &text) { edit(text, edits); });
 }
 
-TEST(TextAllocation, ApplyEditsToAnEmptyText)
+TEST(TextAllocation, EditAnEmptyText)
 {
     const platform::TextEdits edits{{{0, 0}, u"a text that is long enough to need memory"}};
     failEveryAllocation([] { return AttributedString(); },
-                        [&edits](AttributedString &text) { applyEdits(text, edits); });
+                        [&edits](AttributedString &text) { edit(text, edits); });
 }
 
 TEST(TextAllocation, AttributedStringOfAText)

@@ -82,7 +82,7 @@ TEST(AttributedString, LeavesItsCopiesAloneWhenItChanges)
             changed.replaceCharacters({1, 2}, u"xyz");
         },
         [](AttributedString &changed) {
-            applyEdits(changed, {{{0, 1}, u""}});
+            edit(changed, {{{0, 1}, u""}});
         },
         [](AttributedString &changed) {
             changed.changeAttributes({{0, 1}}, [](QVariantMap &attributes) { attributes.clear(); });
@@ -504,12 +504,12 @@ TEST_F(LargeAttributedString, CarriesOutEditsInEveryTenRuns)
     constexpr std::size_t period = 10 * runLength;
     TextEdits edits;
     for (std::size_t start = 0; start < large.length(); start += period) {
-        edits.push_back({{start + 4, 1}, u"xy"});
-        edits.push_back({{start + 6, 8}, u""});
-        edits.push_back({{start + 20, 0}, u"z"});
+        edits.replace({start + 4, 1}, u"xy");
+        edits.remove({start + 6, 8});
+        edits.insert(start + 20, u"z");
     }
     ASSERT_EQ(edits.size(), 300'000u);
-    applyEdits(large, edits);
+    edit(large, edits);
 
     QString weights;
     Range run;

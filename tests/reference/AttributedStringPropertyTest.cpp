@@ -77,7 +77,7 @@ Change randomReplacement(Random &random, std::size_t textLength)
     const Range range = property::randomRange(random, textLength);
     const std::u16string string = property::randomString(random, pieces(), 6);
     return {"replaceCharacters " + testing::PrintToString(range) + " by " + printed(string),
-            [=](AttributedString &text) { text.replaceCharacters(range, platform::view(string)); },
+            [=](AttributedString &text) { text.replaceCharacters(range, property::view(string)); },
             [=](NaiveAttributedString &text) {
                 reference::replaceCharactersInRange(text, range, string);
             }};
@@ -86,8 +86,8 @@ Change randomReplacement(Random &random, std::size_t textLength)
 Change randomEditList(Random &random, std::size_t textLength)
 {
     const std::vector<Edit> edits = property::randomEdits(random, textLength);
-    return {"applyEdits " + printed(edits),
-            [=](AttributedString &text) { applyEdits(text, property::asLibrary(edits)); },
+    return {"edit " + printed(edits),
+            [=](AttributedString &text) { edit(text, property::asLibrary(edits)); },
             [=](NaiveAttributedString &text) {
                 reference::applyEdits(text, edits);
             }};

@@ -7,13 +7,13 @@
 
 #include <gtest/gtest.h>
 
-using platform::view;
 using property::asLibrary;
 using property::asReference;
 using property::forEachCase;
 using property::Pieces;
 using property::printed;
 using property::Random;
+using property::view;
 
 namespace {
 

@@ -124,7 +124,7 @@ std::string printed(const NaiveAttributedString &text)
 
 QString asLibrary(std::u16string_view text)
 {
-    return platform::view(text).toString();
+    return property::view(text).toString();
 }
 
 AttributedString asLibrary(const NaiveAttributedString &text)
@@ -142,7 +142,7 @@ TextEdits asLibrary(const std::vector<Edit> &edits)
 {
     TextEdits result;
     for (const Edit &edit : edits) {
-        result.push_back({edit.range, edit.string});
+        result.replace(edit.range, edit.string);
     }
     return result;
 }

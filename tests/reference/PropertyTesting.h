@@ -94,6 +94,12 @@ std::string printed(const std::vector<std::u16string> &strings);
 std::string printed(const std::vector<reference::Edit> &edits);
 std::string printed(const reference::NaiveAttributedString &text);
 
+/// The units as a Qt view.
+inline QStringView view(std::u16string_view text)
+{
+    return {text.data(), static_cast<qsizetype>(text.size())};
+}
+
 /// The same on the library's side. Edits view the strings of those that they are made of.
 QString asLibrary(std::u16string_view text);
 platform::AttributedString asLibrary(const reference::NaiveAttributedString &text);

@@ -11,13 +11,13 @@
 #include <limits>
 
 using platform::AttributedString;
-using platform::view;
 using property::asLibrary;
 using property::forEachCase;
 using property::outcome;
 using property::Pieces;
 using property::printed;
 using property::Random;
+using property::view;
 using reference::NaiveAttributedString;
 
 namespace {

@@ -73,7 +73,7 @@ TEST(RangeListsProperty, EncloseRanges)
 
         EXPECT_EQ(outcome(asLibrary(text),
                           [&](QString &t) {
-                              KZMutableStringExportAdditions::encloseRanges(t, ranges, platform::view(string));
+                              KZMutableStringExportAdditions::encloseRanges(t, ranges, property::view(string));
                           }),
                   outcome(text, [&](std::u16string &t) { reference::encloseRanges(t, ranges, string); }))
             << "text " << printed(text) << "\nranges " << printed(ranges) << "\nstring " << printed(string);

@@ -16,13 +16,13 @@
 using namespace std::string_view_literals;
 using platform::AttributedString;
 using platform::RangeList;
-using platform::view;
 using property::asLibrary;
 using property::forEachCase;
 using property::outcome;
 using property::Pieces;
 using property::printed;
 using property::Random;
+using property::view;
 using reference::NaiveAttributedString;
 
 namespace {

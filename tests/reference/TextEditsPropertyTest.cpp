@@ -28,19 +28,19 @@ const Pieces &pieces()
 
 } // namespace
 
-TEST(TextEditsProperty, ApplyEdits)
+TEST(TextEditsProperty, Edit)
 {
     forEachCase([](Random &random) {
         const std::u16string text = property::randomText(random, pieces());
         const std::vector<Edit> edits = property::randomEdits(random, text.size());
 
-        EXPECT_EQ(outcome(asLibrary(text), [&](QString &t) { platform::applyEdits(t, asLibrary(edits)); }),
+        EXPECT_EQ(outcome(asLibrary(text), [&](QString &t) { platform::edit(t, asLibrary(edits)); }),
                   outcome(text, [&](std::u16string &t) { reference::applyEdits(t, edits); }))
             << "text " << printed(text) << "\nedits " << printed(edits);
     });
 }
 
-TEST(TextEditsProperty, ApplyEditsLeavesSharedDataAlone)
+TEST(TextEditsProperty, EditLeavesSharedDataAlone)
 {
     forEachCase([](Random &random) {
         const std::u16string text = property::randomText(random, pieces());
@@ -48,9 +48,9 @@ TEST(TextEditsProperty, ApplyEditsLeavesSharedDataAlone)
         const auto expected = outcome(text, [&](std::u16string &t) { reference::applyEdits(t, edits); });
         const QString original = random.chance(50)
                                      ? asLibrary(text)
-                                     : QString::fromRawData(platform::view(text).data(), platform::view(text).size());
+                                     : QString::fromRawData(property::view(text).data(), property::view(text).size());
 
-        EXPECT_EQ(outcome(original, [&](QString &t) { platform::applyEdits(t, asLibrary(edits)); }), expected)
+        EXPECT_EQ(outcome(original, [&](QString &t) { platform::edit(t, asLibrary(edits)); }), expected)
             << "text " << printed(text) << "\nedits " << printed(edits);
         EXPECT_EQ(asReference(original), text) << "edits " << printed(edits);
     });

@@ -15,5 +15,5 @@ using namespace KZStringExportAdditions;
 using namespace KZAttributedStringExportAdditions;
 using namespace KZMutableStringExportAdditions;
 using namespace KZMutableAttributedStringExportAdditions;
-using platform::applyEdits;
+using platform::edit;
 } // namespace library

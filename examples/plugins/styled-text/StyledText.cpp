@@ -31,9 +31,9 @@ void endLinesWithLineFeeds(AttributedString &text)
     const QString &string = text.string();
     for (qsizetype at = string.indexOf(u'\r'); at >= 0; at = string.indexOf(u'\r', at + 1)) {
         const bool isPair = at + 1 < string.size() && string[at + 1] == u'\n';
-        edits.push_back({{static_cast<std::size_t>(at), 1}, isPair ? u"" : u"\n"});
+        edits.replace({static_cast<std::size_t>(at), 1}, isPair ? u"" : u"\n");
     }
-    applyEdits(text, edits);
+    edit(text, edits);
 }
 
 /// Whether a line whose mark ends at this position has the blank behind it that strict marks ask for.
