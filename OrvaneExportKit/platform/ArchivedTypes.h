@@ -21,6 +21,7 @@ namespace platform {
 struct ObjectSet {
     QVariantList elements; ///< none is twice in it
 
+    /// Whether each element of one set is in the other.
     ORVANE_CORE_EXPORT friend bool operator==(const ObjectSet &a, const ObjectSet &b);
 };
 
@@ -28,6 +29,7 @@ struct ObjectSet {
 struct OrderedObjectSet {
     QVariantList elements; ///< in the order of the set, none twice
 
+    /// Whether the same elements stand in the same order.
     ORVANE_CORE_EXPORT friend bool operator==(const OrderedObjectSet &a, const OrderedObjectSet &b);
 };
 
@@ -36,6 +38,7 @@ struct CountedObjectSet {
     QVariantList elements; ///< each once
     QList<quint64> counts; ///< as many as there are elements
 
+    /// Whether each element is in the other set, and as often.
     ORVANE_CORE_EXPORT friend bool operator==(const CountedObjectSet &a, const CountedObjectSet &b);
 };
 
@@ -45,6 +48,7 @@ struct ObjectDictionary {
     QVariantList keys;    ///< each once
     QVariantList objects; ///< as many as there are keys
 
+    /// Whether both hold the same keys with the same objects.
     ORVANE_CORE_EXPORT friend bool operator==(const ObjectDictionary &a, const ObjectDictionary &b);
 };
 

@@ -121,6 +121,7 @@ public:
 
     /// Why `nonPropertyListObjectForKey` answers nothing, in a sentence; empty when it answers an object.
     ///
+    ///     const KZExportSettings settings(u"com.example.plain-text"_s);
     ///     settings.nonPropertyListObjectErrorForKey(u"font"_s);   // "font: there is no value under this key"
     QString nonPropertyListObjectErrorForKey(const QString &key) const;
 

@@ -67,6 +67,7 @@ inline const QByteArray archiveOfA = KeyedArchiver::archivedDataWithRootObject(u
 inline const QByteArray archiveOfB = KeyedArchiver::archivedDataWithRootObject(u"B"_s);
 
 inline AttributedString text;
+inline const KeyedObject object;
 inline RangeList ranges;
 inline QStringList paths;
 inline QVariantMap attributes;
