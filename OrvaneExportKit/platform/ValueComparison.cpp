@@ -34,6 +34,9 @@ bool ValueComparison::equal(const QVariant &a, const QVariant &b)
     if (holds<QVariantList>(a)) {
         return equal(content<QVariantList>(a), content<QVariantList>(b));
     }
+    if (a.typeId() < QMetaType::User) {
+        return a == b;
+    }
     if (holds<ObjectSet>(a)) {
         return equalElements<ObjectSet>(a, b);
     }

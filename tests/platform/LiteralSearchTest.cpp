@@ -35,7 +35,7 @@ std::vector<std::size_t> places(std::u16string_view text, std::u16string_view li
 TEST(LiteralSearch, FindsWhatStandsFarApart)
 {
     std::u16string text(1000, u'-');
-    for (const std::size_t place : {70, 71, 400, 960, 999}) {
+    for (const std::size_t place : {70U, 71U, 400U, 960U, 999U}) {
         text[place] = u'*';
     }
     EXPECT_EQ(places(text, u"-*", 5, text.size()), (std::vector<std::size_t>{69, 399, 959, 998}));
@@ -90,7 +90,7 @@ TEST(LiteralSearch, AnEmptyLiteralStandsNowhere)
 TEST(LiteralSearch, FindsLiteralsOfAnyLengthInTextsThatRepeatTheirUnits)
 {
     std::mt19937 random(5);
-    for (const std::size_t length : {15, 16, 17, 18, 64, 100, 129}) {
+    for (const std::size_t length : {15U, 16U, 17U, 18U, 64U, 100U, 129U}) {
         for (int round = 0; round < 200; ++round) {
             // Two units, one of them rare, make literals that begin again inside themselves.
             std::u16string text(400, u'a');

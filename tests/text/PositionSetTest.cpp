@@ -43,7 +43,7 @@ TEST(PositionSet, BeginsWithoutOrWithAllMembers)
 TEST(PositionSet, AnswersLikeASortedSetAfterEveryChange)
 {
     std::mt19937 random(1);
-    for (const std::size_t size : {1, 2, 3, 7, 8, 9, 31, 64, 100}) {
+    for (const std::size_t size : {1U, 2U, 3U, 7U, 8U, 9U, 31U, 64U, 100U}) {
         PositionSet set(size);
         std::set<std::size_t> members;
         for (int change = 0; change < 200; ++change) {

@@ -579,12 +579,12 @@ TEST_F(DefaultsProgramMeetingFaults, TakesOverTheLockFileOfAKilledProgramAlsoFro
 
 TEST_F(DefaultsProgramMeetingFaults, LosesNothingOfFourProgramsWhoseClockIsAhead)
 {
-    constexpr int programs = 4;
+    constexpr std::size_t programs = 4;
     constexpr int writes = 25;
     meet({{u"CLOCK"_s, u"5"_s}});
     const QString script = u"for number in $(seq %1); do \"$0\" write \"$1\" \"$2-$number\" yes || exit; done"_s;
     std::array<QProcess, programs> writers;
-    for (int i = 0; i < programs; ++i) {
+    for (std::size_t i = 0; i < programs; ++i) {
         writers[i].setProcessEnvironment(environment);
         writers[i].start(
             u"sh"_s, {u"-c"_s, script.arg(writes), QStringLiteral(DEFAULTS_PROGRAM), domainName, QString::number(i)});
