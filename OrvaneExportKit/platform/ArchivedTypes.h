@@ -63,9 +63,9 @@ struct IndexPath {
 /// hosts into small ones, for one. `QVariant::toUrl` answers the URL of either type, `QVariant::toString` that of this
 /// one as the archive spells it.
 ///
-///     const QVariant link = text.attributesAtIndex(0).value(u"NSLink"_s);
-///     link.toUrl();                           // item://f1b2c3d4
-///     link.value<ArchivedUrl>().string;       // "item://F1B2C3D4"
+///     const ArchivedUrl link{u"Item:F1B2C3D4"_s, {}};
+///     link.url().toString();   // "item:F1B2C3D4"
+///     link.string;             // "Item:F1B2C3D4"
 struct ORVANE_CORE_EXPORT ArchivedUrl {
     QString string; ///< as the archive spells it, without the base
     QVariant base;  ///< a `QUrl` or an `ArchivedUrl`; invalid where the string is the whole URL

@@ -82,8 +82,9 @@ public:
     /// backslash or a link. None unless overridden.
     virtual QStringList additionalFileNames() const;
 
-    /// The content of one of the additional files, by its name as `additionalFileNames` gives it. `title` is that of the manuscript, `files` are those that its
-    /// documents became, in their order. May throw as `exportedData` may. Empty unless overridden.
+    /// The content of one of the additional files, by its name as `additionalFileNames` gives it. `title` is that of
+    /// the manuscript, `files` are those that its documents became, in their order. May throw as `exportedData` may.
+    /// Empty unless overridden.
     virtual QByteArray additionalFileData(const QString &fileName, const QString &title,
                                           const QList<ExportedFile> &files) const;
 

@@ -37,7 +37,7 @@ struct ORVANE_KIT_EXPORT Font {
     /// The style of an installed family that comes closest to a font: one that slants as it does, then the nearest
     /// weight. Empty for a family without styles.
     ///
-    ///     Font::closestStyle(u"DejaVu Sans"_s, Font::fontWithName(u"Times-Bold"_s, 12.0));   // its bold, upright style
+    ///     Font::closestStyle(u"DejaVu Sans"_s, Font::fontWithName(u"Times-Bold"_s, 12.0));   // its bold style
     static QString closestStyle(const QString &family, const QFont &font);
 
     /// The font that the user's texts have at first: the system's general font, in points above 0.

@@ -172,8 +172,7 @@ TEST(TextAllocation, Edit)
 TEST(TextAllocation, EditAnEmptyText)
 {
     const platform::TextEdits edits{{{0, 0}, u"a text that is long enough to need memory"}};
-    failEveryAllocation([] { return AttributedString(); },
-                        [&edits](AttributedString &text) { edit(text, edits); });
+    failEveryAllocation([] { return AttributedString(); }, [&edits](AttributedString &text) { edit(text, edits); });
 }
 
 TEST(TextAllocation, AttributedStringOfAText)

@@ -86,8 +86,7 @@ Change randomReplacement(Random &random, std::size_t textLength)
 Change randomEditList(Random &random, std::size_t textLength)
 {
     const std::vector<Edit> edits = property::randomEdits(random, textLength);
-    return {"edit " + printed(edits),
-            [=](AttributedString &text) { edit(text, property::asLibrary(edits)); },
+    return {"edit " + printed(edits), [=](AttributedString &text) { edit(text, property::asLibrary(edits)); },
             [=](NaiveAttributedString &text) {
                 reference::applyEdits(text, edits);
             }};

@@ -181,14 +181,14 @@ int attackSeconds()
 
 TEST_F(DefaultsSafety, FiveProgramsOfWhichOneIsStoppedNowAndThenLoseNothing)
 {
-    constexpr int programs = 5;
+    constexpr std::size_t programs = 5;
     const std::chrono::seconds duration(attackSeconds());
     ASSERT_TRUE(UserDefaults(folder()).setPersistentDomain({}, domainName));
     std::array<SharedNumber, programs> last;
     const SharedNumber running;
-    *running = programs;
+    *running = int{programs};
     std::array<pid_t, programs> writers{};
-    for (int i = 0; i < programs; ++i) {
+    for (std::size_t i = 0; i < programs; ++i) {
         writers[i] = support::startChild([&, i] {
             *last[i] = writeNumbers(folder(), u"program %1"_s.arg(i), duration);
             --*running;
@@ -197,7 +197,7 @@ TEST_F(DefaultsSafety, FiveProgramsOfWhichOneIsStoppedNowAndThenLoseNothing)
     std::mt19937 random(std::random_device{}());
     std::uniform_int_distribution microseconds(0, 20000);
     int stops = 0;
-    for (const pid_t stopped = writers[0]; *running == programs; ++stops) {
+    for (const pid_t stopped = writers[0]; *running == int{programs}; ++stops) {
         std::this_thread::sleep_for(std::chrono::microseconds(microseconds(random)));
         EXPECT_EQ(kill(stopped, SIGSTOP), 0);
         std::this_thread::sleep_for(2150ms);
@@ -205,7 +205,7 @@ TEST_F(DefaultsSafety, FiveProgramsOfWhichOneIsStoppedNowAndThenLoseNothing)
     }
     QVariantMap expected;
     qint64 saves = 0;
-    for (int i = 0; i < programs; ++i) {
+    for (std::size_t i = 0; i < programs; ++i) {
         EXPECT_EQ(support::waitForChild(writers[i]), 0);
         expected.insert(u"program %1"_s.arg(i), qint64(*last[i]));
         saves += *last[i];
