@@ -66,15 +66,15 @@ public:
 
     /// Appends an edit. A `QString` is kept, as one that shares its units; a view has to last until the list is carried
     /// out.
-    void replace(Range range, std::u16string_view replacement) { m_edits.push_back({range, replacement}); }
+    void replace(Range range, std::u16string_view replacement) { m_edits.emplace_back(range, replacement); }
     void replace(Range range, const QString &replacement) { replace(range, kept(replacement)); }
 
     /// Appends an edit that inserts before the unit at `index`, or at the end of the text.
-    void insert(std::size_t index, std::u16string_view inserted) { m_edits.push_back({{index, 0}, inserted}); }
+    void insert(std::size_t index, std::u16string_view inserted) { m_edits.emplace_back(Range{index, 0}, inserted); }
     void insert(std::size_t index, const QString &inserted) { insert(index, kept(inserted)); }
 
     /// Appends an edit that deletes the units of the range.
-    void remove(Range range) { m_edits.push_back({range}); }
+    void remove(Range range) { m_edits.emplace_back(range); }
 
     /// Makes room for so many edits in all.
     void reserve(std::size_t count) { m_edits.reserve(count); }
@@ -132,7 +132,7 @@ class EditFinder
 {
 public:
     /// Refers to a function object that finds all edits of a text.
-    template <FindsEdits Find>
+    template <typename Find, std::enable_if_t<FindsEdits<Find>, int> = 0>
     EditFinder(Find &&find) noexcept
         : m_find(addressOf(find)),
           m_call([](void *called, std::u16string_view text, std::size_t, std::size_t, TextEdits &edits) {
@@ -143,7 +143,7 @@ public:
     }
 
     /// Refers to a function object that finds the edits of a part of a text.
-    template <FindsEditsOfParts Find>
+    template <typename Find, std::enable_if_t<FindsEditsOfParts<Find>, int> = 0>
     EditFinder(Find &&find) noexcept
         : m_find(addressOf(find)),
           m_call([](void *called, std::u16string_view text, std::size_t from, std::size_t until, TextEdits &edits) {
