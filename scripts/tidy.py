@@ -28,9 +28,7 @@ def digest(file):
 
 def mark_of(source):
     """The file that is there when the source has passed as it is."""
-    command = COMMANDS.get(os.path.realpath(source))
-    if command is None:
-        sys.exit(f"{source} is not built in {BUILD}: lint a folder in which all is built")
+    command = COMMANDS[os.path.realpath(source)]
     options = command[1:command.index("-o")]
     rule = subprocess.run(["clang++", *options, "-M", "-MT", "source", source], stdout=subprocess.PIPE, check=True).stdout
     files = shlex.split(os.fsdecode(rule).replace("\\\n", " "))[1:]
@@ -39,6 +37,9 @@ def mark_of(source):
 
 
 def passes(source):
+    if os.path.realpath(source) not in COMMANDS:
+        print(f"{source} is left out, for it is not built on this system")
+        return True
     mark = mark_of(source)
     if mark.exists():
         return True
