@@ -45,7 +45,7 @@ QList<qsizetype> placesOfFirstEqual(KeyedFieldReader &reader, const QVariantList
 /// The elements of a set, each once.
 QVariantList decodeDistinctElements(KeyedFieldReader &reader)
 {
-    const QVariantList elements = decodeElements(reader);
+    QVariantList elements = decodeElements(reader);
     if (elements.size() < 2) {
         return elements;
     }

@@ -25,7 +25,7 @@ bool hasConfigurationFolder()
 /// Empty when there is none.
 QString standardFolder()
 {
-    const QString named = qEnvironmentVariable("ORVANE_DEFAULTS_FOLDER");
+    QString named = qEnvironmentVariable("ORVANE_DEFAULTS_FOLDER");
     if (!named.isEmpty() || !hasConfigurationFolder()) {
         return named;
     }
